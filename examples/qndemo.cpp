@@ -1,14 +1,24 @@
 // The library's tour: a host program that starts the library with its command
 // line, uses it, and finalises it.
+#include <exception>
 #include <iostream>
 
-#include <base/exInternalError.h>
+#include <base/exBase.h>
+#include <base/inInitGuard.h>
+#include <base/inInitMgr.h>
 
-int main() {
+int main(int argc, char** argv) {
     try {
-        throw Qn::ExInternalError(__FILE__, __LINE__, "demo");
-    } catch (const Qn::ExBase& e) {
-        std::cout << e.getDetailedReason() << "\n";
+        // Initialises every package of the library in dependency order; the
+        // library takes the command line (argc is 0 afterwards).
+        Qn::InInitGuard library(argc, argv);
+        std::cout << "QnBase demo: the library is initialised.\n\n" << Qn::InInitMgr::getInstance();
+        std::cout << "\nFinalising the packages in reverse order.\n";
+        return 0;
+    } catch (const Qn::ExBase& failure) {
+        std::cerr << failure.getDetailedReason() << std::endl;
+    } catch (const std::exception& failure) {
+        std::cerr << failure.what() << std::endl;
     }
-    return 0;
+    return 1;
 }

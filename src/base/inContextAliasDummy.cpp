@@ -1,0 +1,7 @@
+#include <base/inContextAliasDummy.h>
+
+namespace Qn {
+
+InContextAliasDummy::InContextAliasDummy() : InContextAliasBase("dummy") {}
+
+}  // namespace Qn

@@ -1,0 +1,7 @@
+#include <base/inPackageInitBase.h>
+
+namespace Qn {
+
+InPackageInitBase::~InPackageInitBase() = default;
+
+}  // namespace Qn
