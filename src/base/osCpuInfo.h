@@ -14,7 +14,7 @@
 namespace Qn {
 
 class QN_BASE_API OsCpuInfo {
-public:
+  public:
     // Queries and caches what later calls return. Called at start-up.
     static void initialize();
 
@@ -24,7 +24,7 @@ public:
     // The raw performance-counter value now. Raises ExSysErrorANSI on failure.
     static uint64_t getHwCounterValue();
 
-private:
+  private:
     static uint64_t performGetHwCounterFrequency();
 };
 
