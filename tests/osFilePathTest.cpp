@@ -9,16 +9,13 @@
 #include <base/exInternalError.h>
 #include <base/exSysErrorNative.h>
 #include <base/osFileEx.h>
+#include <support/platform.h>
 #include <support/scopedEnv.h>
 #include <support/tempDirFixture.h>
 
 namespace {
 
-#if defined(_WIN32)
-constexpr bool onWindows = true;
-#else
-constexpr bool onWindows = false;
-#endif
+using QnTest::onWindows;
 
 std::string text(const Qn::OsFilePath& path) { return path.getText(); }
 
@@ -51,7 +48,8 @@ TEST(OsFilePath, ConstructionAndAssignmentCopyTheText) {
     Qn::OsFilePath a("C:\\a/b ");
     Qn::OsFilePath copy(a);
     EXPECT_EQ(text(copy), "C:\\a/b ");
-    copy = copy;
+    const Qn::OsFilePath& self = copy;
+    copy = self;
     EXPECT_EQ(text(copy), "C:\\a/b ");
     copy.set(copy.getText());
     EXPECT_EQ(text(copy), "C:\\a/b ");

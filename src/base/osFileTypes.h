@@ -7,7 +7,8 @@
 
 namespace Qn {
 
-class QN_BASE_API OsFileTypes {
+// Types only: nothing to export.
+class OsFileTypes {
   public:
     // The kind of a file-system element. ElementSpecial is anything that is
     // neither a directory nor a regular file: on Windows an element marked

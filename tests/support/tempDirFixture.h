@@ -52,7 +52,9 @@ class TempDirFixture : public ::testing::Test {
         return relative.empty() ? _native : _native / relative;
     }
 
+    // Writes a file, creating its missing parent directories.
     void writeFile(const std::string& relative, const std::string& content) const {
+        std::filesystem::create_directories(native(relative).parent_path());
         std::ofstream(native(relative), std::ios::binary) << content;
     }
     std::string readFile(const std::string& relative) const {
