@@ -1,6 +1,9 @@
 #include <base/osCpuInfo.h>
 
 #include <atomic>
+#include <bit>
+
+#include <base/assertions.h>
 
 namespace Qn {
 
@@ -18,6 +21,17 @@ uint64_t OsCpuInfo::getHwCounterFrequency() {
         hwCounterFrequency.store(frequency, std::memory_order_relaxed);
     }
     return frequency;
+}
+
+uint64_t OsCpuInfo::getCacheSize(int level) {
+    QN_ASSERT(level >= 1);
+    return performGetCacheSize(level);
+}
+
+OsCpuInfo::ByteOrder OsCpuInfo::getByteOrder() {
+    static_assert(std::endian::native == std::endian::little ||
+                  std::endian::native == std::endian::big);
+    return std::endian::native == std::endian::little ? LittleEndian : BigEndian;
 }
 
 }  // namespace Qn

@@ -1,0 +1,7 @@
+#include <base/osFileFilter.h>
+
+namespace Qn {
+
+OsFileFilter::~OsFileFilter() = default;
+
+}  // namespace Qn
