@@ -156,9 +156,8 @@ TYPED_TEST(RnLowDiscrepancyTest, DiscrepancyBelowUniformPoints) {
 }
 
 TEST(RnNiederreiterMatrix, PolynomialsAndTriangularMatrices) {
-    const std::vector<std::uint64_t> expected = {0b10,    0b11,    0b111,   0b1011,
-                                                 0b1101,  0b10011, 0b11001, 0b11111,
-                                                 0b100101};
+    const std::vector<std::uint64_t> expected = {0b10,    0b11,    0b111,   0b1011,  0b1101,
+                                                 0b10011, 0b11001, 0b11111, 0b100101};
     for (unsigned int d = 0; d < expected.size(); ++d)
         EXPECT_EQ(Qn::RnNiederreiterMatrix::getPolynomial(d), expected[d]) << "dimension " << d;
     std::uint32_t columns[32];

@@ -174,7 +174,8 @@ TYPED_TEST(RnUniformRngTest, UnitRangeDensityAndUniformity) {
         // Successive pairs fill the unit square evenly as well.
         std::vector<T> pairs;
         for (std::size_t i = 0; i + 1 < values.size(); i += 2)
-            pairs.push_back(T(std::min(0.999999, std::floor(values[i] * 10.0) / 10 + values[i + 1] / 10.0)));
+            pairs.push_back(
+                T(std::min(0.999999, std::floor(values[i] * 10.0) / 10 + values[i + 1] / 10.0)));
         EXPECT_LT(RnTest::chiSquare(pairs, 100), 148.0);
         std::vector<T> none(3, T(-1));
         rng->getSequence(0, none.data());

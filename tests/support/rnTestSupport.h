@@ -80,8 +80,7 @@ inline double starDiscrepancy(const std::vector<double>& x, const std::vector<do
                               int grid = 256) {
     std::vector<double> cumulative((grid + 1) * (grid + 1), 0.0);
     auto at = [&](int i, int j) -> double& { return cumulative[i * (grid + 1) + j]; };
-    for (std::size_t p = 0; p < x.size(); ++p)
-        at(int(x[p] * grid) + 1, int(y[p] * grid) + 1) += 1;
+    for (std::size_t p = 0; p < x.size(); ++p) at(int(x[p] * grid) + 1, int(y[p] * grid) + 1) += 1;
     double worst = 0;
     for (int i = 1; i <= grid; ++i)
         for (int j = 1; j <= grid; ++j) {
