@@ -60,6 +60,14 @@ TYPED_TEST(RnLowDiscrepancyTest, VanDerCorputRadicalInverseAndWrap) {
     EXPECT_EQ(base2(), T(0));
     EXPECT_EQ(base2(), T(0.5));
 
+    // Base 2 gives what summing the digits in T gives, also where float rounds.
+    for (std::uint32_t index : {1u, 0xFFFFFFu, 0x1000001u, 0x12345679u, 0xFFFFFFFFu}) {
+        T sum = 0, factor = T(0.5);
+        for (std::uint32_t n = index; n != 0; n /= 2, factor *= T(0.5))
+            if (n % 2) sum += factor;
+        EXPECT_EQ(base2.radicalInverse(index), sum) << index;
+    }
+
     EXPECT_EQ(assertionText([] { Qn::RnVanDerCorputRng<T> bad(1); }),
               "Assertion 'base >= 2' failed.");
     EXPECT_EQ(assertionText([] { Qn::RnVanDerCorputRng<T>(2).setBase(0); }),
