@@ -19,10 +19,12 @@ class RnAsymmetricalSeparableBiRng : public RnBiFromMultiRng<T, RnSeparableMulti
         : RnBiFromMultiRng<T, RnSeparableMultiRng<T, 2>>(
               RnSeparableMultiRng<T, 2>({xSource, ySource})) {}
 
-    const char* getName() const override { return "Assymetrical Bi Separable"; }
+    const char* getName() const override;
 };
 
 extern template class QN_BASE_API RnAsymmetricalSeparableBiRng<float>;
 extern template class QN_BASE_API RnAsymmetricalSeparableBiRng<double>;
 
 }  // namespace Qn
+
+#include <base/rnAsymmetricalSeparableBiRng.imp>

@@ -15,13 +15,13 @@ class RnBiFromMultiRng : public RnBiRng<T> {
   public:
     void getSample(T& x, T& y) override;
     void getSequence(unsigned int n, T* x, T* y) override;
-    void getEfficientWidth(T& x, T& y) const override { split(&Multi::getEfficientWidth, x, y); }
-    void getEfficientMin(T& x, T& y) const override { split(&Multi::getEfficientMin, x, y); }
-    void getEfficientMax(T& x, T& y) const override { split(&Multi::getEfficientMax, x, y); }
-    T getEfficientFraction() const override { return _multi.getEfficientFraction(); }
+    void getEfficientWidth(T& x, T& y) const override;
+    void getEfficientMin(T& x, T& y) const override;
+    void getEfficientMax(T& x, T& y) const override;
+    T getEfficientFraction() const override;
     T getPdf(T x, T y) const override;
-    void restart() override { _multi.restart(); }
-    const char* getName() const override { return _multi.getName(); }
+    void restart() override;
+    const char* getName() const override;
 
   protected:
     RnBiFromMultiRng() = default;

@@ -11,8 +11,8 @@ namespace Qn {
 template <class T, class Gen>
 class RnEvalRng : public RnRng<T> {
   public:
-    T operator()() override { return self().eval(); }
-    void getSample(T& value) override { value = self().eval(); }
+    T operator()() override;
+    void getSample(T& value) override;
     void getSequence(unsigned int n, T* out) override;
 
   protected:

@@ -30,8 +30,8 @@ class RnHaltonMultiRng : public RnUnitCubeMultiRng<T, N> {
     // Puts every component on index: the next point is that of index + 1.
     void restart(std::uint32_t index);
     // Puts every component on index 0.
-    void restart() override { restart(0); }
-    const char* getName() const override { return "Halton"; }
+    void restart() override;
+    const char* getName() const override;
 
     // Copies the N bases into bases[0 .. N-1].
     void getPrimeNumbers(std::uint32_t* bases) const;

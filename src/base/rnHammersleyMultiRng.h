@@ -28,8 +28,8 @@ class RnHammersleyMultiRng : public RnUnitCubeMultiRng<T, N> {
     void getSample(T* point) override;
     void getSequence(unsigned int n, T* const* out) override;
     // The next draw returns point 0 again.
-    void restart() override { _index = 0; }
-    const char* getName() const override { return "Hammersley"; }
+    void restart() override;
+    const char* getName() const override;
 
     std::uint32_t getLength() const { return _length; }
     // Number of points drawn since the start.

@@ -33,12 +33,12 @@ class RnHistogramBiRng : public RnBiRng<T> {
     void getEfficientWidth(T& x, T& y) const override;
     void getEfficientMin(T& x, T& y) const override;
     void getEfficientMax(T& x, T& y) const override;
-    T getEfficientFraction() const override { return T(1); }
+    T getEfficientFraction() const override;
     // The weight of the cell of (x, y) over the total and the cell area; 0
     // outside the rectangle.
     T getPdf(T x, T y) const override;
-    void restart() override { _source->restart(); }
-    const char* getName() const override { return "Histogram"; }
+    void restart() override;
+    const char* getName() const override;
 
   private:
     // Maps a source point in place to a point of the histogram.

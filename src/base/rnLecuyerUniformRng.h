@@ -40,7 +40,8 @@ class RnLecuyerUniformRng : public RnUnitIntervalRng<T, RnLecuyerUniformRng<T>> 
                                  std::uint32_t seed2 = DefaultSeed2);
 
     // One draw; the body of every other draw.
-    T eval() {
+    // Always inlined: callers in other modules get the draw without a call.
+    [[gnu::always_inline]] T eval() {
         _state1 = advance<A1, Q1, R1, M1>(_state1);
         _state2 = advance<A2, Q2, R2, M2>(_state2);
         // The sum of both states exceeds 32 bits; the result after subtracting
@@ -55,7 +56,7 @@ class RnLecuyerUniformRng : public RnUnitIntervalRng<T, RnLecuyerUniformRng<T>> 
     void restart(std::uint32_t seed1, std::uint32_t seed2);
     // Sets the first state from the stored seed2 again.
     void restart() override;
-    const char* getName() const override { return "Lecuyer"; }
+    const char* getName() const override;
 
   private:
     // state = A * state mod M by Schrage's method, without overflow in 32 bits.

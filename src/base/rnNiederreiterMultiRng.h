@@ -29,8 +29,8 @@ class RnNiederreiterMultiRng : public RnUnitCubeMultiRng<T, N> {
     void getSequence(unsigned int n, T* const* out) override;
     // Moves to index: the next draw is that of index + 1.
     void restart(std::uint32_t index);
-    void restart() override { restart(0); }
-    const char* getName() const override { return "Niederreiter"; }
+    void restart() override;
+    const char* getName() const override;
 
     std::uint32_t getIndex() const { return _index; }
 

@@ -34,7 +34,8 @@ class RnNumRecUniformRng : public RnUnitIntervalRng<T, RnNumRecUniformRng<T>> {
     ~RnNumRecUniformRng() override = default;
 
     // One draw; the body of every other draw.
-    T eval() {
+    // Always inlined: callers in other modules get the draw without a call.
+    [[gnu::always_inline]] T eval() {
         const auto j = static_cast<std::uint32_t>(_last * T(SHUFFLESIZE));
         if (j >= SHUFFLESIZE) [[unlikely]]
             shuffleIndexFailed();
@@ -47,7 +48,7 @@ class RnNumRecUniformRng : public RnUnitIntervalRng<T, RnNumRecUniformRng<T>> {
 
     // Reseeds from the stored seed: the sequence starts again.
     void restart() override;
-    const char* getName() const override { return "Numerical Recipes RAN2"; }
+    const char* getName() const override;
 
   protected:
     // The congruential step; IA * state + IC stays below 2^32 for state < M.

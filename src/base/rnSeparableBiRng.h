@@ -17,7 +17,7 @@ class RnSeparableBiRng : public RnBiFromMultiRng<T, RnSeparableMultiRng<T, 2>> {
     explicit RnSeparableBiRng(RnRng<T>* source)
         : RnBiFromMultiRng<T, RnSeparableMultiRng<T, 2>>(RnSeparableMultiRng<T, 2>(source)) {}
 
-    const char* getName() const override { return "Symmetrical Bi Separable"; }
+    const char* getName() const override;
 };
 
 extern template class QN_BASE_API RnBiFromMultiRng<float, RnSeparableMultiRng<float, 2>>;
@@ -26,3 +26,5 @@ extern template class QN_BASE_API RnSeparableBiRng<float>;
 extern template class QN_BASE_API RnSeparableBiRng<double>;
 
 }  // namespace Qn
+
+#include <base/rnSeparableBiRng.imp>

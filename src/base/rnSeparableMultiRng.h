@@ -35,7 +35,7 @@ class RnSeparableMultiRng : public RnMultiRng<T, N> {
     // Product of the sources' densities.
     T getPdf(const T* point) const override;
     void restart() override;
-    const char* getName() const override { return "Multi Separable"; }
+    const char* getName() const override;
 
   private:
     using Query = T (RnRng<T>::*)() const;

@@ -39,7 +39,8 @@ class RnStdUniformRng : public RnUnitIntervalRng<T, RnStdUniformRng<T>> {
     }
 
     // One draw; the body of every other draw.
-    T eval() { return T(rand15()) * Scale; }
+    // Always inlined: callers in other modules get the draw without a call.
+    [[gnu::always_inline]] T eval() { return T(rand15()) * Scale; }
     // One draw mapped to [min, max]: rand * (max - min) * (1/32767) + min.
     T eval(T min, T max) { return T(rand15()) * (max - min) * Scale + min; }
     // One draw scaled: rand * scale * (1/32767).
@@ -47,7 +48,7 @@ class RnStdUniformRng : public RnUnitIntervalRng<T, RnStdUniformRng<T>> {
 
     // Reseeds the runtime with the stored seed.
     void restart() override;
-    const char* getName() const override { return "Std OS-specific generator"; }
+    const char* getName() const override;
 
   private:
     std::uint32_t _seed;

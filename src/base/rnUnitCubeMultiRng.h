@@ -13,7 +13,7 @@ class RnUnitCubeMultiRng : public RnMultiRng<T, N> {
     void getEfficientWidth(T* width) const override;
     void getEfficientMin(T* min) const override;
     void getEfficientMax(T* max) const override;
-    T getEfficientFraction() const override { return T(1); }
+    T getEfficientFraction() const override;
     // 1 inside [0, 1)^N, else 0.
     T getPdf(const T* point) const override;
 };

@@ -12,12 +12,12 @@ template <class T, class Gen>
 class RnUnitIntervalRng : public RnEvalRng<T, Gen> {
   public:
     // The unit interval: minimum 0, maximum, width and useful fraction 1.
-    T getEfficientWidth() const override { return T(1); }
-    T getEfficientMin() const override { return T(0); }
-    T getEfficientMax() const override { return T(1); }
-    T getEfficientFraction() const override { return T(1); }
+    T getEfficientWidth() const override;
+    T getEfficientMin() const override;
+    T getEfficientMax() const override;
+    T getEfficientFraction() const override;
     // 1 for 0 <= x < 1, else 0 (also for a not-a-number x).
-    T getPdf(T x) const override { return (x >= T(0) && x < T(1)) ? T(1) : T(0); }
+    T getPdf(T x) const override;
 
     // One draw mapped to [min, max): min + (max - min) * value.
     T eval(T min, T max) { return min + (max - min) * this->self().eval(); }
@@ -26,3 +26,5 @@ class RnUnitIntervalRng : public RnEvalRng<T, Gen> {
 };
 
 }  // namespace Qn
+
+#include <base/rnUnitIntervalRng.imp>

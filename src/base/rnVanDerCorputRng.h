@@ -26,7 +26,7 @@ class RnVanDerCorputRng : public RnUnitIntervalRng<T, RnVanDerCorputRng<T>> {
     explicit RnVanDerCorputRng(std::uint32_t base);
 
     // The radical inverse of index in the generator's base.
-    T radicalInverse(std::uint32_t index) const {
+    [[gnu::always_inline]] T radicalInverse(std::uint32_t index) const {
         // In base 2 the digit loop sums powers of two; while the sum is exact in T
         // (always for double, below 2^24 for float) it equals the reversed bits.
         if (_base == 2 && (std::numeric_limits<T>::digits >= 32 ||
@@ -44,14 +44,15 @@ class RnVanDerCorputRng : public RnUnitIntervalRng<T, RnVanDerCorputRng<T>> {
     }
 
     // One draw: the radical inverse of the next index (0 once the index wraps).
-    T eval() { return radicalInverse(++_index); }
+    // Always inlined: callers in other modules get the draw without a call.
+    [[gnu::always_inline]] T eval() { return radicalInverse(++_index); }
     using RnUnitIntervalRng<T, RnVanDerCorputRng<T>>::eval;
 
     // Sets the index: the next draw is that of index + 1.
     void restart(std::uint32_t index) { _index = index; }
     // Sets the index to 0.
-    void restart() override { _index = 0; }
-    const char* getName() const override { return "Van der Corput"; }
+    void restart() override;
+    const char* getName() const override;
 
     // The k-th prime number (2 for k = 0): the default base of component k of
     // the multi-dimensional sequences.
