@@ -4,6 +4,7 @@
 #include <base/inBasePackages.h>
 
 #include <base/inInitSources.h>
+#include <base/osCpuInfo.h>
 
 namespace Qn {
 
@@ -44,7 +45,7 @@ InInit<initialize> initializePackage(
     });
 InInit<initArg> initArgPackage("initArg", InPackageDeps<initialize>{}, &Qn::InInitArg::initialize,
                                [] { Qn::InInitArg::registry().finalize(); });
-InInit<osal> osalPackage("osal", InPackageDeps<initialize>{});
+InInit<osal> osalPackage("osal", InPackageDeps<initialize>{}, &Qn::OsCpuInfo::initialize);
 InInit<heapMgr> heapMgrPackage("heapMgr", InPackageDeps<initialize>{});
 InInit<initVars> initVarsPackage("initVars", InPackageDeps<initialize, osal>{});
 InInit<profiling> profilingPackage("profiling", InPackageDeps<initialize, osal>{});

@@ -1,0 +1,8 @@
+#include <base/rnHistogramBiRng.h>
+
+namespace Qn {
+
+template class RnHistogramBiRng<float>;
+template class RnHistogramBiRng<double>;
+
+}  // namespace Qn
