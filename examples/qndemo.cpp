@@ -1,19 +1,74 @@
-// The library's tour: a host program that starts the library with its command
-// line, uses it, and finalises it.
+// The library's tour: a host program that declares its own package and
+// configuration, starts the library with its command line, uses it, and
+// finalises it.
+//
+//   make demo                                   # threads from the default (2)
+//   QN_DEMO_THREADS=3 make demo                 # ... from the environment
+//   ./build/release/examples/qndemo -t 4        # ... from the command line
+//   ./build/release/examples/qndemo -o 5        # ... from a program override
+//   QN_DEBUG_INITIALIZE=1 make demo             # trace of the start-up
+#include <cstring>
 #include <exception>
 #include <iostream>
+#include <string>
 
 #include <base/exBase.h>
+#include <base/inBasePackages.h>
+#include <base/inContextAlias.h>
 #include <base/inInitGuard.h>
 #include <base/inInitMgr.h>
+#include <base/inVariable.h>
+#include <base/osFilePath.h>
+#include <base/rnSamplePicture.h>
+
+namespace QnInit {
+class demo;
+}
+
+namespace {
+
+// The demo's package needs the whole library; its variable takes the number of
+// producer threads from an override, "-t", QN_DEMO_THREADS or the default.
+Qn::InInit<QnInit::demo> demoPackage("demo", Qn::InPackageDeps<QnInit::base>{});
+const Qn::InArgAlias threadsOption("t", "-t <threads>");
+const Qn::InEnvAlias threadsVariable("QN_DEMO_THREADS", "environment variable QN_DEMO_THREADS");
+const Qn::InDefAlias threadsDefault("2", "built-in default");
+Qn::InVariable<int> threads("demo.threads", demoPackage, threadsOption, threadsVariable,
+                            threadsDefault);
+
+// "-o <n>" is the demo's own option, handled before the library takes the
+// command line: it shows that a program override beats every other source.
+void overrideFromCommandLine(int argc, char** argv) {
+    for (int i = 1; i + 1 < argc; ++i)
+        if (std::strcmp(argv[i], "-o") == 0)
+            Qn::InVariableBase::overrideViaHandle("demo.threads", argv[i + 1], "-o override");
+}
+
+void section(const char* title) { std::cout << "\n== " << title << "\n"; }
+
+}  // namespace
 
 int main(int argc, char** argv) {
     try {
-        // Initialises every package of the library in dependency order; the
-        // library takes the command line (argc is 0 afterwards).
+        overrideFromCommandLine(argc, argv);
+        // Initialises every package in dependency order; the library takes the
+        // command line (argc is 0 afterwards).
         Qn::InInitGuard library(argc, argv);
-        std::cout << "QnBase demo: the library is initialised.\n\n" << Qn::InInitMgr::getInstance();
-        std::cout << "\nFinalising the packages in reverse order.\n";
+
+        section("Start-up");
+        std::cout << Qn::InInitMgr::getInstance();
+
+        section("Configuration");
+        std::cout << "producer threads: " << threads.getValue() << " (from " << threads.initSource()
+                  << ")\n";
+
+        section("Sampling");
+        const Qn::OsFilePath picture = Qn::OsFilePath::getTempDir() + "qndemo-samples.svg";
+        Qn::RnSamplePicture::writeUniformVersusHalton(picture.getText());
+        std::cout << "256 uniform and 256 Halton points: " << picture.getText() << "\n";
+
+        section("Shutdown");
+        std::cout << "finalising the packages in reverse order\n";
         return 0;
     } catch (const Qn::ExBase& failure) {
         std::cerr << failure.getDetailedReason() << std::endl;

@@ -1,6 +1,6 @@
 // Qn::RnTextFile: whole-file text input and output for the sample exporters.
-// Paths are native; failures raise RnEx::ExSampleFileAccess with the path and
-// the runtime library's reason.
+// Paths follow the library's rules (OsFilePath); failures raise
+// RnEx::ExSampleFileAccess with the path and the system's reason.
 #pragma once
 
 #include <string>
