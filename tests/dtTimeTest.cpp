@@ -73,6 +73,30 @@ TEST(DtTimeIndex, ConvertRoundsInEveryStyle) {
                  Qn::RationalEx::ExDenominatorZero);
 }
 
+TEST(DtTimeIndex, ConvertTowardZeroIsExactTruncation) {
+    std::mt19937_64 random(5);
+    std::uniform_int_distribution<int> terms(1, 40000);  // products fit 32 bits
+    std::uniform_int_distribution<int64_t> counts(INT64_MIN, INT64_MAX);
+    for (int i = 0; i < 20000; ++i) {
+        const Rational from(terms(random) * (i % 3 == 0 ? -1 : 1), terms(random));
+        const Rational to(terms(random), terms(random));
+        const int64_t count = counts(random) >> (i % 64);
+        // The reduced factor n/d; the result is trunc(n * count / d).
+        const Rational factor(from.getDenominator() * to.getNumerator(),
+                              to.getDenominator() * from.getNumerator());
+        const Int128 product = static_cast<Int128>(factor.getNumerator()) * count;
+        if (product > INT64_MAX || product < INT64_MIN) continue;
+        SCOPED_TRACE(testing::Message()
+                     << count << " from " << from.getNumerator() << "/" << from.getDenominator());
+        ASSERT_EQ(int64_t{DtTimeIndex(count).convert(from, to, std::round_toward_zero)},
+                  static_cast<int64_t>(product / factor.getDenominator()));
+    }
+    // The product through the unreduced factor 6/3 would overflow; through 2/1 it fits.
+    EXPECT_EQ(int64_t{DtTimeIndex(2000000000000000000)
+                          .convert(Rational(3, 1), Rational(6, 1), std::round_toward_zero)},
+              4000000000000000000);
+}
+
 TEST(DtTimeIndex, ClockBreakdown) {
     const Rational film(24, 1);
     const DtTimeIndex later = 90061 * 24 + 12;

@@ -30,10 +30,9 @@ Rational DtTime::getSharedRate(Rational a, Rational b) {
     return product;
 }
 
-DtTime& DtTime::combineAtSharedRate(const DtTime& other, Op op) {
-    const Rational shared = getSharedRate(_rate, other._rate);
-    *this = DtTime(apply(convertRate(shared)._count, other.convertRate(shared)._count, op), shared);
-    return *this;
+DtTime DtTime::combinedAtSharedRate(DtTime a, DtTime b, Op op) {
+    const Rational shared = getSharedRate(a._rate, b._rate);
+    return DtTime(apply(a.convertRate(shared)._count, b.convertRate(shared)._count, op), shared);
 }
 
 std::ostream& DtTime::dump(std::ostream& stream, DtTimeIndex count, Rational rate) {

@@ -124,11 +124,13 @@ class QN_BASE_API DtTime {
     DtTime& combine(const DtTime& other, Op op) {
         if (_rate == other._rate) [[likely]] {
             _count = apply(_count, other._count, op);
-            return *this;
+        } else {
+            *this = combinedAtSharedRate(*this, other, op);
         }
-        return combineAtSharedRate(other, op);
+        return *this;
     }
-    DtTime& combineAtSharedRate(const DtTime& other, Op op);
+    // By value, so that a time combined in a loop can stay in registers.
+    static DtTime combinedAtSharedRate(DtTime a, DtTime b, Op op);
 
     DtTimeIndex _count;
     Rational _rate;

@@ -26,8 +26,16 @@ double DtTimeIndex::getSeconds(Rational rate) const {
 DtTimeIndex DtTimeIndex::convert(Rational fromRate, Rational toRate,
                                  std::float_round_style style) const {
     if (style == std::round_toward_zero) {
-        const Rational factor(IntWrap::mul(fromRate.getDenominator(), toRate.getNumerator()),
-                              IntWrap::mul(toRate.getDenominator(), fromRate.getNumerator()));
+        const int numerator = IntWrap::mul(fromRate.getDenominator(), toRate.getNumerator());
+        const int denominator = IntWrap::mul(toRate.getDenominator(), fromRate.getNumerator());
+        // Truncating numerator * count / denominator gives the same result as
+        // through the reduced factor whenever the product fits, so the
+        // reduction is only needed where the product overflows (and wraps).
+        int64_t product;
+        if (denominator > 0 && !__builtin_mul_overflow(int64_t{numerator}, _count, &product)) {
+            return product / denominator;
+        }
+        const Rational factor(numerator, denominator);
         return IntWrap::div(IntWrap::mul(int64_t{factor.getNumerator()}, _count),
                             factor.getDenominator());
     }

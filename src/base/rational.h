@@ -11,6 +11,8 @@
 //   Qn::Rational r(6, -4);            // stored as -3/2
 #pragma once
 
+#include <bit>
+#include <cstdint>
 #include <iosfwd>
 
 #include <base/qnExport.h>
@@ -52,8 +54,9 @@ class QN_BASE_API Rational {
     // Writes "(n/d=value)", the value with the stream's current formatting.
     void dump(std::ostream& stream) const;
 
+    // Both terms equal (compared as one 64-bit word).
     friend constexpr bool operator==(const Rational& a, const Rational& b) {
-        return a._numerator == b._numerator && a._denominator == b._denominator;
+        return std::bit_cast<uint64_t>(a) == std::bit_cast<uint64_t>(b);
     }
     friend constexpr bool operator!=(const Rational& a, const Rational& b) { return !(a == b); }
 
