@@ -2,9 +2,10 @@
 // system reference clock (the hardware counter, named "HwCounter"). Reference
 // counts are ticks since the factory was made.
 //
-// Make the factory once before other threads use it (the discrete-time
-// package's start-up does); after that every operation only reads the clock and
-// is safe from any thread.
+// getInstance() is safe from any thread, but the first call takes the clock's
+// start stamp, so the discrete-time package's start-up makes the factory before
+// other threads run. Every other operation only reads the clock and is safe
+// from any thread.
 #pragma once
 
 #include <base/dtRefClockSource.h>
