@@ -11,7 +11,6 @@ set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
 set(CMAKE_FIND_ROOT_PATH_MODE_PACKAGE ONLY)
 set(CMAKE_CROSSCOMPILING_EMULATOR wine)
-# The MinGW runtime (libstdc++, libgcc, winpthread) is linked statically into the
-# DLL and every program, so Wine needs no DLL search path.
-set(CMAKE_EXE_LINKER_FLAGS_INIT "-static")
-set(CMAKE_SHARED_LINKER_FLAGS_INIT "-static")
+# The MinGW runtime (libstdc++, libgcc, winpthread) stays in its DLLs, shared by
+# QNbase.dll and the programs: one copy of the standard streams and of the heap
+# for every module. The project copies those DLLs beside its programs.

@@ -12,6 +12,8 @@
 #include <iostream>
 #include <string>
 
+#include <base/dtTime.h>
+#include <base/dtTimeUtil.h>
 #include <base/exBase.h>
 #include <base/inBasePackages.h>
 #include <base/inContextAlias.h>
@@ -46,6 +48,23 @@ void overrideFromCommandLine(int argc, char** argv) {
 
 void section(const char* title) { std::cout << "\n== " << title << "\n"; }
 
+// Exact discrete time: a film second re-expressed at the NTSC rate, two rates
+// added at their shared rate, and a time through its text form and back.
+void showExactTime() {
+    const Qn::Rational film(24, 1), ntsc(30000, 1001);
+    const Qn::DtTime second(24, film);
+    std::cout << second << " at NTSC: " << second.convertRate(ntsc) << "\n";
+    std::cout << "frame 1000 at NTSC, to nearest: "
+              << int64_t{Qn::DtTimeIndex(1000).convert(film, ntsc, std::round_to_nearest)} << "\n";
+    std::cout << Qn::DtTime(10, film) << " + " << Qn::DtTime(10, 25, 1) << " = "
+              << Qn::DtTime(10, film) + Qn::DtTime(10, 25, 1) << "\n";
+    const Qn::DtTime time(100, ntsc);
+    const Qn::ArrayPtrRet<char> text = Qn::DtTimeUtil::getDtStringFromDtTime(time);
+    const Qn::DtTime back = Qn::DtTimeUtil::getDtTimeFromDtString(text.get());
+    std::cout << time << " -> \"" << text.get() << "\" -> " << back
+              << (back == time && back.isRateEqual(time) ? " (exact)" : " (differs)") << "\n";
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -61,6 +80,9 @@ int main(int argc, char** argv) {
         section("Configuration");
         std::cout << "producer threads: " << threads.getValue() << " (from " << threads.initSource()
                   << ")\n";
+
+        section("Exact time");
+        showExactTime();
 
         section("Sampling");
         const Qn::OsFilePath picture = Qn::OsFilePath::getTempDir() + "qndemo-samples.svg";

@@ -3,6 +3,8 @@
 // read at a glance; the manager orders the packages by their dependencies.
 #include <base/inBasePackages.h>
 
+#include <base/dtRefTimeFactory.h>
+#include <base/hwCounter.h>
 #include <base/inInitSources.h>
 #include <base/osCpuInfo.h>
 
@@ -48,7 +50,12 @@ InInit<initArg> initArgPackage("initArg", InPackageDeps<initialize>{}, &Qn::InIn
 InInit<osal> osalPackage("osal", InPackageDeps<initialize>{}, &Qn::OsCpuInfo::initialize);
 InInit<heapMgr> heapMgrPackage("heapMgr", InPackageDeps<initialize>{});
 InInit<initVars> initVarsPackage("initVars", InPackageDeps<initialize, osal>{});
-InInit<profiling> profilingPackage("profiling", InPackageDeps<initialize, osal>{});
+// The counter engine and the reference-time factory are made on first use
+// without a lock, so they are made here, before other threads can race for them.
+InInit<profiling> profilingPackage("profiling", InPackageDeps<initialize, osal>{}, [] {
+    Qn::OsCpuInfo::initialize();
+    (void)Qn::HwCounter::getRateNumerator();
+});
 InInit<logger> loggerPackage("logger", InPackageDeps<initialize, osal, profiling>{});
 InInit<debugging> debuggingPackage("debugging", InPackageDeps<initArg, initialize, logger, osal>{});
 InInit<baseMath> baseMathPackage("baseMath",
@@ -56,7 +63,8 @@ InInit<baseMath> baseMathPackage("baseMath",
 InInit<QnInit::random> randomPackage(
     "random", InPackageDeps<debugging, initArg, initialize, osal, profiling>{});
 InInit<discreteTime> discreteTimePackage(
-    "discreteTime", InPackageDeps<baseMath, debugging, initArg, initialize, profiling>{});
+    "discreteTime", InPackageDeps<baseMath, debugging, initArg, initialize, profiling>{},
+    [] { (void)Qn::DtRefTimeFactory::getInstance(); });
 InInit<testing> testingPackage(
     "testing", InPackageDeps<debugging, heapMgr, initArg, initialize, logger, osal, profiling>{});
 InInit<base> basePackage(

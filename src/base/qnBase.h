@@ -4,6 +4,16 @@
 #include <base/arrayPtr.h>
 #include <base/assertions.h>
 #include <base/dbgTypeName.h>
+#include <base/dtEx.h>
+#include <base/dtHwCounterClockSource.h>
+#include <base/dtRefClockEx.h>
+#include <base/dtRefClockSource.h>
+#include <base/dtRefTime.h>
+#include <base/dtRefTimeFactory.h>
+#include <base/dtTime.h>
+#include <base/dtTimeIndex.h>
+#include <base/dtTimeMark.h>
+#include <base/dtTimeUtil.h>
 #include <base/exBadException.h>
 #include <base/exBase.h>
 #include <base/exFamily.h>
@@ -11,6 +21,10 @@
 #include <base/exSysError.h>
 #include <base/exSysErrorANSI.h>
 #include <base/exSysErrorNative.h>
+#include <base/hwCounter.h>
+#include <base/hwCounterEng.h>
+#include <base/hwCounterIA32.h>
+#include <base/hwIntervalTimer.h>
 #include <base/inBasePackages.h>
 #include <base/inContextAlias.h>
 #include <base/inContextAliasBase.h>
@@ -34,6 +48,7 @@
 #include <base/inVariable.h>
 #include <base/inVariableBase.h>
 #include <base/interval.h>
+#include <base/intervalTimer.h>
 #include <base/list.h>
 #include <base/objPtr.h>
 #include <base/osCpuInfo.h>
@@ -54,6 +69,8 @@
 #include <base/osLeafFileFilter.h>
 #include <base/osPassThroughFilter.h>
 #include <base/qnExport.h>
+#include <base/rational.h>
+#include <base/rationalEx.h>
 #include <base/rnAsymmetricalSeparableBiRng.h>
 #include <base/rnBiFromMultiRng.h>
 #include <base/rnBiRng.h>
@@ -88,5 +105,8 @@
 #include <base/rnUnitCubeMultiRng.h>
 #include <base/rnUnitIntervalRng.h>
 #include <base/rnVanDerCorputRng.h>
+#include <base/timer.h>
+#include <base/timerBase.h>
+#include <base/todIntervalTimer.h>
 #include <base/vector.h>
 #include <base/exSysErrorNative.h>

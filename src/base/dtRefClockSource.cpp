@@ -1,0 +1,7 @@
+#include <base/dtRefClockSource.h>
+
+namespace Qn {
+
+DtRefClockSource::~DtRefClockSource() = default;
+
+}  // namespace Qn

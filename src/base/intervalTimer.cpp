@@ -1,0 +1,7 @@
+#include <base/intervalTimer.h>
+
+namespace Qn {
+
+IntervalTimer::~IntervalTimer() = default;
+
+}  // namespace Qn
