@@ -1,0 +1,7 @@
+#include <base/inContextAliasMgrBase.h>
+
+#include <gtest/gtest.h>
+
+TEST(InContextAliasMgrBase, ApplicationNameIsTheProgramsBaseName) {
+    EXPECT_STREQ(Qn::InContextAliasMgrBase::getApplicationName(), "qnbaseTests");
+}
