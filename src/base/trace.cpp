@@ -107,10 +107,13 @@ void Trace::print(std::ostream& out, const char* fileName, int lineNo, const cha
                   ...) const {
     TraceOptions& options = TraceOptions::getInstance();
     static char buffer[4096];
-    va_list arguments;
-    va_start(arguments, format);
-    std::vsnprintf(buffer, sizeof buffer, format ? format : "", arguments);
-    va_end(arguments);
+    buffer[0] = '\0';
+    if (format) {
+        va_list arguments;
+        va_start(arguments, format);
+        std::vsnprintf(buffer, sizeof buffer, format, arguments);
+        va_end(arguments);
+    }
     writeLineStart(out, options, fileName, lineNo);
     out << buffer;
 }
