@@ -2,6 +2,7 @@
 // and the texts of the default implementation.
 #include <gtest/gtest.h>
 
+#include <limits>
 #include <map>
 #include <memory>
 #include <sstream>
@@ -141,10 +142,8 @@ TEST(HmHeapMgr, SettersReturnThePreviousValue) {
     EXPECT_EQ(manager.getDeferQueueLen(), 10u);
     EXPECT_EQ(manager.getDeferSizeThreshold(), 20u);
     EXPECT_EQ(manager.getCheckFrequency(), 6u);
-    if (sizeof(unsigned long) > 4) {
-        manager.setDeferQueueLen(0x100000000ul);
-        EXPECT_EQ(manager.getDeferQueueLen(), 4294967295u) << "kept in 32 bits";
-    }
+    manager.setDeferQueueLen(std::numeric_limits<unsigned long>::max());
+    EXPECT_EQ(manager.getDeferQueueLen(), 4294967295u) << "kept in 32 bits";
 }
 
 TEST(HmHeapMgr, DefaultImplementationChecksNothing) {
