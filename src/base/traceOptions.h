@@ -14,7 +14,7 @@
 //   fndirs=N           directories kept before the file name (default 0;
 //                      negative gives 0)
 //   fnwidth=N          width of the file name field (default 20; negative
-//                      gives 20)
+//                      gives 20, more than 4096 gives 4096)
 //   show=L, hide=L     enable or disable level L (made if needed); L = all
 //                      switches every level, and levels made later follow
 //   printlevels        print the level table before the first trace line
