@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <limits>
 
+#include <base/mathInt.h>
 #include <base/rnUnitIntervalRng.h>
 
 namespace Qn {
@@ -31,7 +32,7 @@ class RnVanDerCorputRng : public RnUnitIntervalRng<T, RnVanDerCorputRng<T>> {
         // (always for double, below 2^24 for float) it equals the reversed bits.
         if (_base == 2 && (std::numeric_limits<T>::digits >= 32 ||
                            index < (std::uint32_t(1) << (std::numeric_limits<T>::digits % 32))))
-            return T(reverseBits(index)) * T(0x1p-32);
+            return T(MathInt::reverseBits(index)) * T(0x1p-32);
         T value = 0;
         T factor = _inverseBase;
         do {
@@ -71,14 +72,6 @@ class RnVanDerCorputRng : public RnUnitIntervalRng<T, RnVanDerCorputRng<T>> {
     std::uint32_t getIndex() const { return _index; }
 
   private:
-    static std::uint32_t reverseBits(std::uint32_t v) {
-        v = ((v >> 1) & 0x55555555u) | ((v & 0x55555555u) << 1);
-        v = ((v >> 2) & 0x33333333u) | ((v & 0x33333333u) << 2);
-        v = ((v >> 4) & 0x0F0F0F0Fu) | ((v & 0x0F0F0F0Fu) << 4);
-        v = ((v >> 8) & 0x00FF00FFu) | ((v & 0x00FF00FFu) << 8);
-        return (v >> 16) | (v << 16);
-    }
-
     std::uint32_t _base;
     T _inverseBase;
     std::uint32_t _index;
