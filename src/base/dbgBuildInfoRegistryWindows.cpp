@@ -3,8 +3,9 @@
 // GetModuleFileNameA.
 #include <base/dbgBuildInfoRegistry.h>
 
-#include <psapi.h>
 #include <windows.h>
+// After windows.h, whose types it uses.
+#include <psapi.h>
 
 #include <base/exSysErrorWindows.h>
 
