@@ -47,6 +47,13 @@ TEST(MathInt, PowersOfTwoAndLogarithms) {
     }
 }
 
+TEST(MathInt, Primes) {
+    static_assert(MathInt::getPrime(0) == 2);
+    const uint32_t first[] = {2, 3, 5, 7, 11, 13, 17, 19, 23, 29};
+    for (unsigned int k = 0; k < 10; ++k) EXPECT_EQ(MathInt::getPrime(k), first[k]) << k;
+    EXPECT_EQ(MathInt::getPrime(25), 101U);
+}
+
 TEST(MathInt, ReversesBits) {
     EXPECT_EQ(MathInt::reverseBits(0U), 0U);
     EXPECT_EQ(MathInt::reverseBits(1U), 0x80000000U);

@@ -49,6 +49,18 @@ class MathInt {
         return x <= 1 ? floorLog2(x) : std::bit_width(x - 1);
     }
 
+    // The k-th prime number: 2 for k = 0, 3 for k = 1, 5, 7, 11, ... (the
+    // default bases of the components of multi-dimensional radical inverses).
+    // Trial division: meant for small k.
+    static constexpr uint32_t getPrime(unsigned int k) {
+        uint32_t candidate = 2;
+        for (;; ++candidate) {
+            bool prime = true;
+            for (uint32_t d = 2; d * d <= candidate && prime; ++d) prime = candidate % d != 0;
+            if (prime && k-- == 0) return candidate;
+        }
+    }
+
     // The 32 bits of v in reverse order: bit 0 becomes bit 31.
     static constexpr uint32_t reverseBits(uint32_t v) {
         v = ((v >> 1) & 0x55555555U) | ((v & 0x55555555U) << 1);

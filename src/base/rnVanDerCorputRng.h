@@ -55,17 +55,6 @@ class RnVanDerCorputRng : public RnUnitIntervalRng<T, RnVanDerCorputRng<T>> {
     void restart() override;
     const char* getName() const override;
 
-    // The k-th prime number (2 for k = 0): the default base of component k of
-    // the multi-dimensional sequences.
-    static constexpr std::uint32_t getPrime(unsigned int k) {
-        std::uint32_t candidate = 2;
-        for (;; ++candidate) {
-            bool prime = true;
-            for (std::uint32_t d = 2; d * d <= candidate && prime; ++d) prime = candidate % d != 0;
-            if (prime && k-- == 0) return candidate;
-        }
-    }
-
     std::uint32_t getBase() const { return _base; }
     // Changes the base and keeps the index. REQUIRES: base >= 2.
     void setBase(std::uint32_t base);
