@@ -20,7 +20,7 @@ class QN_BASE_API PrEx : public ExBase {
     class ExDuplicateProfiler;
     // No profiler of that name in the registry.
     class ExUnknownProfiler;
-    // A period or a sleep that is not a finite number of seconds (the text).
+    // A period or a sleep that is not a finite number of seconds.
     class ExInvalidDuration;
 
   protected:
@@ -34,7 +34,11 @@ QN_EX_FORMAT(QN_BASE_API, PrEx, ExStillRunning, std::logic_error,
 QN_EX_FORMAT(QN_BASE_API, PrEx, ExDuplicateProfiler, std::logic_error,
              "Duplicate profiler: <%.*s>.");
 QN_EX_FORMAT(QN_BASE_API, PrEx, ExUnknownProfiler, std::logic_error, "Unknown profiler: <%.*s>.");
-QN_EX_FORMAT(QN_BASE_API, PrEx, ExInvalidDuration, std::invalid_argument,
-             "Invalid duration: <%.*s> seconds.");
+// "Invalid duration: <seconds> seconds.", the number as "%g" writes it.
+class QN_BASE_API PrEx::ExInvalidDuration
+    : public ExLeaf<PrEx::ExInvalidDuration, std::invalid_argument, PrEx> {
+  public:
+    ExInvalidDuration(const char* file, int line, double seconds);
+};
 
 }  // namespace Qn

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cmath>
-#include <cstdio>
+#include <utility>
 
 #include <base/hwCounter.h>
 #include <base/mathFloat.h>
@@ -23,11 +23,8 @@ const char* const TimerName = "periodic timer";
 
 PrPeriodicTimer::PrPeriodicTimer(double period, Callback callback)
     : _period(period), _callback(std::move(callback)) {
-    if (!MathFloat::isFinitePositive(period)) {
-        char text[32];
-        std::snprintf(text, sizeof text, "%g", period);
-        throw PrEx::ExInvalidDuration(__FILE__, __LINE__, text);
-    }
+    if (!MathFloat::isFinitePositive(period))
+        throw PrEx::ExInvalidDuration(__FILE__, __LINE__, period);
 }
 
 PrPeriodicTimer::~PrPeriodicTimer() { (void)halt(); }

@@ -2,11 +2,11 @@
 
 #include <algorithm>
 #include <cmath>
-#include <cstdio>
 #include <thread>
 
 #include <base/hwCounter.h>
 #include <base/mathFloat.h>
+#include <base/objPtr.h>
 #include <base/prEx.h>
 
 namespace Qn {
@@ -40,11 +40,7 @@ PrSleeper::PrSleeper() : _margin(FirstMargin) {}
 PrSleeper::~PrSleeper() = default;
 
 void PrSleeper::sleepSeconds(double seconds) {
-    if (!MathFloat::isFinite(seconds)) {
-        char text[32];
-        std::snprintf(text, sizeof text, "%g", seconds);
-        throw PrEx::ExInvalidDuration(__FILE__, __LINE__, text);
-    }
+    if (!MathFloat::isFinite(seconds)) throw PrEx::ExInvalidDuration(__FILE__, __LINE__, seconds);
     if (seconds <= 0.0) return;
     const uint64_t now = HwCounter::timeStamp();
     // Far beyond any real sleep, and still far from wrapping the counter.
