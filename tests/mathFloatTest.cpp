@@ -45,8 +45,6 @@ TYPED_TEST(MathFloatTyped, ClassifiesEveryKindOfValue) {
         EXPECT_EQ(MathFloat::isFinite(row.value),
                   row.kind != MathFloat::Infinite && row.kind != MathFloat::NotANumber);
     }
-    EXPECT_STREQ(MathFloat::getName(MathFloat::NotANumber), "NaN");
-    EXPECT_STREQ(MathFloat::getName(MathFloat::Subnormal), "subnormal");
 }
 
 TYPED_TEST(MathFloatTyped, ToleranceBoundsAndNaN) {

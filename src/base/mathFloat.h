@@ -40,11 +40,6 @@ class MathFloat {
                 return Normal;
         }
     }
-    // The name of a kind: "zero", "subnormal", "normal", "infinite" or "NaN".
-    static constexpr const char* getName(Class kind) {
-        constexpr const char* names[] = {"zero", "subnormal", "normal", "infinite", "NaN"};
-        return names[kind];
-    }
 
     template <class T>
     static bool isNan(T x) {
