@@ -21,9 +21,10 @@
 //     ExVersionMismatch);
 //  3. with stamp checking only: every stamp reads as a date and time
 //     (ExInvalidStamp), no library was built before libQNbase and the
-//     application was built after every library (ExStaleBuild). Stamps are
-//     compared as local times of the machines that built the modules, so the
-//     check suits a developer's own builds and is off unless asked for.
+//     application was built after every library (ExStaleBuild). A stamp is
+//     when the registering source file was compiled, read as the local time
+//     of the machine that compiled it, so the check suits a developer's own
+//     builds and is off unless asked for.
 // The "debugging" package validates at start-up (initialize()) as the
 // environment says:
 //   QN_BUILDINFO_NO_VALIDATE    set (and not "0" or "false"): no validation;
