@@ -15,6 +15,7 @@
 #include <cstdint>
 #include <iosfwd>
 
+#include <base/mathFloat.h>
 #include <base/qnExport.h>
 #include <base/rationalEx.h>
 
@@ -73,16 +74,16 @@ class QN_BASE_API Rational {
 };
 
 inline bool operator<(const Rational& a, const Rational& b) {
-    return a.getDouble() < b.getDouble() - Rational::OrderingTolerance;
+    return MathFloat::isLess(a.getDouble(), b.getDouble(), Rational::OrderingTolerance);
 }
 inline bool operator<=(const Rational& a, const Rational& b) {
-    return a.getDouble() < b.getDouble() + Rational::OrderingTolerance;
+    return MathFloat::isLessOrNear(a.getDouble(), b.getDouble(), Rational::OrderingTolerance);
 }
 inline bool operator>(const Rational& a, const Rational& b) {
-    return a.getDouble() > b.getDouble() + Rational::OrderingTolerance;
+    return MathFloat::isGreater(a.getDouble(), b.getDouble(), Rational::OrderingTolerance);
 }
 inline bool operator>=(const Rational& a, const Rational& b) {
-    return a.getDouble() > b.getDouble() - Rational::OrderingTolerance;
+    return MathFloat::isGreaterOrNear(a.getDouble(), b.getDouble(), Rational::OrderingTolerance);
 }
 
 }  // namespace Qn

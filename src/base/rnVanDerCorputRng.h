@@ -13,6 +13,7 @@
 #include <cstdint>
 #include <limits>
 
+#include <base/mathInt.h>
 #include <base/rnUnitIntervalRng.h>
 
 namespace Qn {
@@ -31,7 +32,7 @@ class RnVanDerCorputRng : public RnUnitIntervalRng<T, RnVanDerCorputRng<T>> {
         // (always for double, below 2^24 for float) it equals the reversed bits.
         if (_base == 2 && (std::numeric_limits<T>::digits >= 32 ||
                            index < (std::uint32_t(1) << (std::numeric_limits<T>::digits % 32))))
-            return T(reverseBits(index)) * T(0x1p-32);
+            return T(MathInt::reverseBits(index)) * T(0x1p-32);
         T value = 0;
         T factor = _inverseBase;
         do {
@@ -54,31 +55,12 @@ class RnVanDerCorputRng : public RnUnitIntervalRng<T, RnVanDerCorputRng<T>> {
     void restart() override;
     const char* getName() const override;
 
-    // The k-th prime number (2 for k = 0): the default base of component k of
-    // the multi-dimensional sequences.
-    static constexpr std::uint32_t getPrime(unsigned int k) {
-        std::uint32_t candidate = 2;
-        for (;; ++candidate) {
-            bool prime = true;
-            for (std::uint32_t d = 2; d * d <= candidate && prime; ++d) prime = candidate % d != 0;
-            if (prime && k-- == 0) return candidate;
-        }
-    }
-
     std::uint32_t getBase() const { return _base; }
     // Changes the base and keeps the index. REQUIRES: base >= 2.
     void setBase(std::uint32_t base);
     std::uint32_t getIndex() const { return _index; }
 
   private:
-    static std::uint32_t reverseBits(std::uint32_t v) {
-        v = ((v >> 1) & 0x55555555u) | ((v & 0x55555555u) << 1);
-        v = ((v >> 2) & 0x33333333u) | ((v & 0x33333333u) << 2);
-        v = ((v >> 4) & 0x0F0F0F0Fu) | ((v & 0x0F0F0F0Fu) << 4);
-        v = ((v >> 8) & 0x00FF00FFu) | ((v & 0x00FF00FFu) << 8);
-        return (v >> 16) | (v << 16);
-    }
-
     std::uint32_t _base;
     T _inverseBase;
     std::uint32_t _index;

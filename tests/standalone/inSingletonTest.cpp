@@ -5,6 +5,7 @@
 
 #include <base/inSingleton.h>
 #include <base/inSingletonEx.h>
+#include <support/reasonOf.h>
 
 namespace QnTestSingleton {
 
@@ -20,19 +21,7 @@ struct Widget {
 using QnTestSingleton::Widget;
 using Singleton = Qn::InSingleton<Widget>;
 
-namespace {
-
-template <class Ex, class F>
-std::string reasonOf(F&& operation) {
-    try {
-        operation();
-    } catch (const Ex& e) {
-        return e.getReason();
-    }
-    return "<nothing raised>";
-}
-
-}  // namespace
+using QnTest::reasonOf;
 
 TEST(InSingleton, StateTransitionsAndMessages) {
     const std::string name = "Qn::InSingleton<QnTestSingleton::Widget>";
