@@ -4,9 +4,11 @@
 #include <base/inBasePackages.h>
 
 #include <base/dtRefTimeFactory.h>
+#include <base/hmHeapMgr.h>
 #include <base/hwCounter.h>
 #include <base/inInitSources.h>
 #include <base/osCpuInfo.h>
+#include <base/prSleeper.h>
 
 namespace Qn {
 
@@ -48,14 +50,20 @@ InInit<initialize> initializePackage(
 InInit<initArg> initArgPackage("initArg", InPackageDeps<initialize>{}, &Qn::InInitArg::initialize,
                                [] { Qn::InInitArg::registry().finalize(); });
 InInit<osal> osalPackage("osal", InPackageDeps<initialize>{}, &Qn::OsCpuInfo::initialize);
-InInit<heapMgr> heapMgrPackage("heapMgr", InPackageDeps<initialize>{});
+InInit<heapMgr> heapMgrPackage("heapMgr", InPackageDeps<initialize>{}, &Qn::HmHeapMgr::initialize,
+                               &Qn::HmHeapMgr::finalize);
 InInit<initVars> initVarsPackage("initVars", InPackageDeps<initialize, osal>{});
 // The counter engine and the reference-time factory are made on first use
 // without a lock, so they are made here, before other threads can race for them.
-InInit<profiling> profilingPackage("profiling", InPackageDeps<initialize, osal>{}, [] {
-    Qn::OsCpuInfo::initialize();
-    (void)Qn::HwCounter::getRateNumerator();
-});
+// The sleeper is the package's singleton.
+InInit<profiling> profilingPackage(
+    "profiling", InPackageDeps<initialize, osal>{},
+    [] {
+        Qn::OsCpuInfo::initialize();
+        (void)Qn::HwCounter::getRateNumerator();
+        Qn::PrSleeper::createInstance();
+    },
+    &Qn::PrSleeper::destroyInstance);
 InInit<logger> loggerPackage("logger", InPackageDeps<initialize, osal, profiling>{});
 InInit<debugging> debuggingPackage("debugging", InPackageDeps<initArg, initialize, logger, osal>{});
 InInit<baseMath> baseMathPackage("baseMath",
