@@ -7,6 +7,7 @@
 //   ./build/release/examples/qndemo -t 4        # ... from the command line
 //   ./build/release/examples/qndemo -o 5        # ... from a program override
 //   QN_DEBUG_INITIALIZE=1 make demo             # trace of the start-up
+//   QN_TRACE_OPTIONS=show=Demo,line ./build/release/examples/qndemo
 #include <cstring>
 #include <exception>
 #include <iostream>
@@ -22,6 +23,7 @@
 #include <base/inVariable.h>
 #include <base/osFilePath.h>
 #include <base/rnSamplePicture.h>
+#include <base/traceDemo.h>
 
 namespace QnInit {
 class demo;
@@ -80,6 +82,9 @@ int main(int argc, char** argv) {
         section("Configuration");
         std::cout << "producer threads: " << threads.getValue() << " (from " << threads.initSource()
                   << ")\n";
+
+        section("Tracing");
+        Qn::TraceDemo::traceNestedCalls();
 
         section("Exact time");
         showExactTime();
