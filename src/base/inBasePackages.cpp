@@ -3,6 +3,7 @@
 // read at a glance; the manager orders the packages by their dependencies.
 #include <base/inBasePackages.h>
 
+#include <base/dbgBuildInfoRegistry.h>
 #include <base/dtRefTimeFactory.h>
 #include <base/hmHeapMgr.h>
 #include <base/hwCounter.h>
@@ -65,7 +66,9 @@ InInit<profiling> profilingPackage(
     },
     &Qn::PrSleeper::destroyInstance);
 InInit<logger> loggerPackage("logger", InPackageDeps<initialize, osal, profiling>{});
-InInit<debugging> debuggingPackage("debugging", InPackageDeps<initArg, initialize, logger, osal>{});
+// Validates the versions and build stamps of the loaded libraries.
+InInit<debugging> debuggingPackage("debugging", InPackageDeps<initArg, initialize, logger, osal>{},
+                                   &Qn::DbgBuildInfoRegistry::initialize);
 InInit<baseMath> baseMathPackage("baseMath",
                                  InPackageDeps<debugging, initArg, initialize, osal, profiling>{});
 InInit<QnInit::random> randomPackage(

@@ -3,7 +3,11 @@
 
 #include <base/arrayPtr.h>
 #include <base/assertions.h>
+#include <base/dbgBuildInfo.h>
+#include <base/dbgBuildInfoEx.h>
+#include <base/dbgBuildInfoRegistry.h>
 #include <base/dbgTypeName.h>
+#include <base/dbgVersion.h>
 #include <base/dtEx.h>
 #include <base/dtHwCounterClockSource.h>
 #include <base/dtRefClockEx.h>
@@ -21,6 +25,10 @@
 #include <base/exSysError.h>
 #include <base/exSysErrorANSI.h>
 #include <base/exSysErrorNative.h>
+#include <base/hmGC.h>
+#include <base/hmGCEx.h>
+#include <base/hmHeapMgr.h>
+#include <base/hmSystemHeapMgr.h>
 #include <base/hwCounter.h>
 #include <base/hwCounterEng.h>
 #include <base/hwCounterIA32.h>
@@ -50,6 +58,8 @@
 #include <base/interval.h>
 #include <base/intervalTimer.h>
 #include <base/list.h>
+#include <base/mathFloat.h>
+#include <base/mathInt.h>
 #include <base/objPtr.h>
 #include <base/osCpuInfo.h>
 #include <base/osDateEx.h>
@@ -68,6 +78,12 @@
 #include <base/osFsUtils.h>
 #include <base/osLeafFileFilter.h>
 #include <base/osPassThroughFilter.h>
+#include <base/osProcess.h>
+#include <base/prEx.h>
+#include <base/prPeriodicTimer.h>
+#include <base/prProfiler.h>
+#include <base/prProfilerRegistry.h>
+#include <base/prSleeper.h>
 #include <base/qnExport.h>
 #include <base/rational.h>
 #include <base/rationalEx.h>
@@ -108,5 +124,10 @@
 #include <base/timer.h>
 #include <base/timerBase.h>
 #include <base/todIntervalTimer.h>
+#include <base/trace.h>
+#include <base/traceDemo.h>
+#include <base/traceLevel.h>
+#include <base/traceManager.h>
+#include <base/traceOptions.h>
 #include <base/vector.h>
 #include <base/exSysErrorNative.h>
