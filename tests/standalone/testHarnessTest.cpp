@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <cctype>
-#include <cstdint>
 #include <cstdio>
 #include <cstdlib>
 #include <exception>
@@ -18,6 +17,7 @@
 #include <base/testMgr.h>
 #include <base/testPerformer.h>
 #include <base/trace.h>
+#include <support/lostBlock.h>
 #include <support/manualTimer.h>
 #include <support/reasonOf.h>
 #include <support/tempDirFixture.h>
@@ -46,7 +46,7 @@ class Recorder : public Qn::TestGroup {
         if (first == "throw-internal") throw Qn::ExInternalError("g.cpp", 7, "broken");
         if (first == "throw-std") throw std::out_of_range("far");
         if (first == "throw-int") throw 42;
-        if (first == "lose-block") lost = reinterpret_cast<uintptr_t>(std::malloc(64)) ^ disguise;
+        if (first == "lose-block") lost.lose();
         if (argc == 2 && std::isdigit(static_cast<unsigned char>(first[0]))) {
             timeOfDayNow += std::atof(argv[0]);
             hardwareNow += std::atof(argv[1]);
@@ -57,15 +57,9 @@ class Recorder : public Qn::TestGroup {
         calls.push_back("print");
         out << "results of " << getName();
     }
-    void freeLost() {
-        std::free(reinterpret_cast<void*>(lost ^ disguise));
-        lost = disguise;
-    }
 
     std::vector<std::string> calls;
-    // A block kept in a form the leak checker cannot see.
-    static constexpr uintptr_t disguise = static_cast<uintptr_t>(0x5A5A5A5A5A5A5A5Aull);
-    uintptr_t lost = disguise;
+    QnTest::LostBlock lost;
 };
 
 Recorder alpha("Alpha");
@@ -341,10 +335,10 @@ TEST_F(HarnessTest, DetectedLeaksFailTheRun) {
     if (!Qn::HmGC::isLeakCheckerLoaded()) GTEST_SKIP() << "built without the leak checker";
     const char* dump[] = {"prog", "Alpha", "-dumpLeaks", "lose-block", nullptr};
     EXPECT_EQ(Qn::TestMgr::runTest(4, dump), Qn::TestMgr::Success) << "reported only";
-    alpha.freeLost();
+    alpha.lost.free();
     const char* detect[] = {"prog", "Alpha", "-detectLeaks", "lose-block", nullptr};
     EXPECT_EQ(Qn::TestMgr::runTest(4, detect), Qn::TestMgr::LeaksDetected);
-    alpha.freeLost();
+    alpha.lost.free();
     EXPECT_EQ(trace.lines.back(), "Abnormal termination: Memory leaks detected.");
 }
 
