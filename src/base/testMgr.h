@@ -3,10 +3,13 @@
 // status.
 //
 //   int main(int argc, char** argv) {
-//       const std::vector<std::string> words(argv, argv + argc);  // kept before the
-//       Qn::InInitGuard library(argc, argv);                      // library takes them
-//       ... pointers to words ...
-//       return Qn::TestMgr::runTest(count, pointers);
+//       // Start-up empties argc and argv: keep a copy of the words first.
+//       const std::vector<std::string> words(argv, argv + argc);
+//       Qn::InInitGuard library(argc, argv);
+//       std::vector<const char*> args;
+//       for (const std::string& word : words) args.push_back(word.c_str());
+//       args.push_back(nullptr);
+//       return Qn::TestMgr::runTest(static_cast<int>(words.size()), args.data());
 //   }
 //
 // The command line is
