@@ -8,24 +8,12 @@
 
 #include <base/prEx.h>
 #include <base/prProfilerRegistry.h>
+#include <support/manualTimer.h>
 #include <support/reasonOf.h>
 
 namespace {
 
-// An interval timer on a clock that the test sets by hand.
-class ManualTimer : public Qn::IntervalTimer {
-  public:
-    explicit ManualTimer(const double& now) : IntervalTimer(nullptr), _now(now) {}
-    void start() override { _start = _now; }
-    void stop() override { _stop = _now; }
-    double timeInterval() const override { return _stop - _start; }
-    double sinceStart() const override { return _now - _start; }
-
-  private:
-    const double& _now;
-    double _start = 0.0;
-    double _stop = 0.0;
-};
+using QnTest::ManualTimer;
 
 class PrProfilerTest : public ::testing::Test {
   protected:

@@ -14,16 +14,11 @@
 #include <base/traceDemo.h>
 #include <base/traceManager.h>
 #include <base/traceOptions.h>
+#include <support/traceCollector.h>
 
 namespace {
 
-// Collects the lines handed to the current manager.
-class Collector : public Qn::TraceManager {
-  public:
-    explicit Collector(int priority = 1000) : TraceManager(priority) {}
-    void print(const char* line) override { lines.emplace_back(line); }
-    std::vector<std::string> lines;
-};
+using Collector = QnTest::TraceCollector;
 
 class TraceTest : public ::testing::Test {
   protected:

@@ -10,17 +10,13 @@
 #include <base/trace.h>
 #include <base/traceManager.h>
 #include <base/traceOptions.h>
+#include <support/traceCollector.h>
 
 namespace {
 
 Qn::TraceLevel& io = Qn::Trace::registerLevel("Io", __FILE__);
 
-class Collector : public Qn::TraceManager {
-  public:
-    Collector() : TraceManager(1) {}
-    void print(const char* line) override { lines.emplace_back(line); }
-    std::vector<std::string> lines;
-};
+using Collector = QnTest::TraceCollector;
 
 }  // namespace
 
