@@ -29,8 +29,9 @@ namespace fs = std::filesystem;
 
 using OsFileTest = QnTest::TempDirFixture;
 
-Qn::OsDateTypes::DateRep localNow() {
-    std::time_t now = std::time(nullptr);
+// The local time now, moved by offset seconds.
+Qn::OsDateTypes::DateRep localNow(int offset) {
+    std::time_t now = std::time(nullptr) + offset;
     std::tm fields = *std::localtime(&now);
     return Qn::OsDateUtil::makeTime(fields.tm_year + 1900, fields.tm_mon + 1, fields.tm_mday,
                                     fields.tm_hour, fields.tm_min, fields.tm_sec);
@@ -165,10 +166,11 @@ TEST_F(OsFileTest, AccessProbesNeverThrow) {
 }
 
 TEST_F(OsFileTest, SizeOwnerAndTimes) {
-    Qn::OsDateTypes::DateRep before = localNow();
+    // Margins of two seconds: file times and time() read different clocks.
+    Qn::OsDateTypes::DateRep before = localNow(-2);
     writeFile("five", "12345");
     writeFile("empty", "");
-    Qn::OsDateTypes::DateRep after = localNow();
+    Qn::OsDateTypes::DateRep after = localNow(2);
     EXPECT_EQ(Qn::OsFile(path("five")).getSize(), 5u);
     EXPECT_EQ(Qn::OsFile(path("empty")).getSize(), 0u);
     EXPECT_THROW(Qn::OsFile(dir()).getSize(), Qn::ExSysErrorNative);

@@ -10,6 +10,7 @@
 #include <base/inInitSources.h>
 #include <base/osCpuInfo.h>
 #include <base/prSleeper.h>
+#include <base/testPerformer.h>
 
 namespace Qn {
 
@@ -76,8 +77,10 @@ InInit<QnInit::random> randomPackage(
 InInit<discreteTime> discreteTimePackage(
     "discreteTime", InPackageDeps<baseMath, debugging, initArg, initialize, profiling>{},
     [] { (void)Qn::DtRefTimeFactory::getInstance(); });
+// The performance runner is the testing package's singleton.
 InInit<testing> testingPackage(
-    "testing", InPackageDeps<debugging, heapMgr, initArg, initialize, logger, osal, profiling>{});
+    "testing", InPackageDeps<debugging, heapMgr, initArg, initialize, logger, osal, profiling>{},
+    [] { Qn::TestPerformer::createInstance(); }, &Qn::TestPerformer::destroyInstance);
 InInit<base> basePackage(
     "base", InPackageDeps<initialize, initArg, osal, heapMgr, initVars, profiling, logger,
                           debugging, baseMath, QnInit::random, discreteTime, testing>{});

@@ -121,6 +121,11 @@
 #include <base/rnUnitCubeMultiRng.h>
 #include <base/rnUnitIntervalRng.h>
 #include <base/rnVanDerCorputRng.h>
+#include <base/testDir.h>
+#include <base/testGroup.h>
+#include <base/testInform.h>
+#include <base/testMgr.h>
+#include <base/testPerformer.h>
 #include <base/timer.h>
 #include <base/timerBase.h>
 #include <base/todIntervalTimer.h>
