@@ -5,22 +5,21 @@
 //   QN_LOG(io, Qn::LgTypes::Warning) << "read " << bytes << " bytes of " << name;
 //
 // QN_LOG tests the group first: a disabled level costs one mask test and one
-// branch, and the operands after it are not evaluated. Otherwise it reserves
-// an entry in the caller's queue (LgLog::getQueue), and when the reservation
-// succeeds it writes the operands into the queue's stream and commits the
-// entry at the end of the statement. A full queue counts the message as lost,
-// without evaluating the operands either. QN_LOG is a complete if-else
-// statement: it is safe after an if without braces.
+// branch, and the operands are not evaluated. Otherwise it reserves an entry
+// in the caller's queue (LgLog::getQueue), writes the operands into the
+// queue's stream and commits the entry at the end of the statement. When the
+// queue is full the message is counted as lost and nothing is written. QN_LOG
+// is an expression statement: it is safe after an if without braces.
 //
-// LgMessage is the same in object form, for code that builds a message over
-// several statements:
+// LgMessage is the same in object form, for a message built over several
+// statements; the entry is committed when the object goes:
 //
 //   if (group.isLevelEnabled(Qn::LgTypes::Tracing)) {
 //       Qn::LgMessage message(Qn::LgTypes::Tracing);
-//       if (message.isReserved()) {
-//           for (int v : values) message.stream() << v << ' ';
-//       }
-//   }   // committed here
+//       for (int v : values) message << v << ' ';
+//   }
+//
+// Producer thread only.
 #pragma once
 
 #include <base/lgLog.h>
@@ -40,10 +39,19 @@ class LgMessage {
     LgMessage(const LgMessage&) = delete;
     LgMessage& operator=(const LgMessage&) = delete;
 
-    // Whether the text may be written (false: the queue counted it as lost).
+    // Whether the text is kept (false: the queue counted the message as lost).
     bool isReserved() const { return _reserved; }
-    // The stream to write the text into. REQUIRES: isReserved().
-    LgStream& stream() { return _queue; }
+    // Writes a value with the stream's insertion operators, when reserved.
+    template <class T>
+    LgMessage& operator<<(const T& value) {
+        if (_reserved) _queue << value;
+        return *this;
+    }
+
+    // Turns "message << ..." into a void expression for QN_LOG.
+    struct Discard {
+        void operator&(const LgMessage&) const {}
+    };
 
   private:
     LgQueue& _queue;
@@ -52,8 +60,5 @@ class LgMessage {
 
 }  // namespace Qn
 
-#define QN_LOG(group, level)                                                        \
-    if (!(group).isLevelEnabled(level)) {                                           \
-    } else if (::Qn::LgMessage qnLgMessage_{(level)}; !qnLgMessage_.isReserved()) { \
-    } else                                                                          \
-        qnLgMessage_.stream()
+#define QN_LOG(group, level) \
+    !(group).isLevelEnabled(level) ? (void)0 : ::Qn::LgMessage::Discard() & ::Qn::LgMessage(level)
