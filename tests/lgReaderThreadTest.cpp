@@ -21,7 +21,9 @@ TEST(LgReaderThread, ObserverMakesProducersWaitForRoom) {
     const auto previousFunction = LgLog::setQueueFunction(&Qn::LgThreadQueues::getQueue);
     Qn::LgReaderThread reader;
     Qn::LgThreadQueues::install(reader.getObserver());
+    EXPECT_FALSE(LgLog::isLoggerActive());
     reader.start();
+    EXPECT_TRUE(LgLog::isLoggerActive());
     const std::string text(2000, 't');
     int lost = 0;
     unsigned long threadId = 0;
@@ -42,6 +44,7 @@ TEST(LgReaderThread, ObserverMakesProducersWaitForRoom) {
     EXPECT_EQ(lost, 0);
     EXPECT_NE(threadId, Qn::LgThreadQueues::getCurrentThreadId());
     reader.stop();
+    EXPECT_FALSE(LgLog::isLoggerActive());
     // The exited producer's queue was drained and destroyed.
     EXPECT_TRUE(LgLog::getRegistry()->getQueueList().empty());
 

@@ -6,6 +6,7 @@
 #include <mutex>
 
 #include <base/assertions.h>
+#include <base/lgLog.h>
 #include <base/lgReader.h>
 
 namespace Qn {
@@ -102,12 +103,14 @@ void LgReaderThread::start() {
     _state->failure = nullptr;
     _state->running.store(true, std::memory_order_release);
     _thread = std::thread([state = _state] { state->run(); });
+    _wasActive = LgLog::setLoggerActivation(true);
 }
 
 void LgReaderThread::stop() {
     if (!isRunning()) return;
     _state->requestStop();
     _thread.join();
+    LgLog::setLoggerActivation(_wasActive);
     if (_state->failure) std::rethrow_exception(_state->failure);
 }
 

@@ -32,10 +32,12 @@ class QN_BASE_API LgReaderThread {
     LgReaderThread(const LgReaderThread&) = delete;
     LgReaderThread& operator=(const LgReaderThread&) = delete;
 
-    // Starts the thread. REQUIRES: not running.
+    // Starts the thread and marks the logger active (LgLog::isLoggerActive):
+    // there is a reader for the queues now. REQUIRES: not running.
     void start();
-    // Writes every pending entry, stops and joins the thread. Raises the
-    // exception that ended the reader, if one did. Nothing when not running.
+    // Writes every pending entry, stops and joins the thread, and gives the
+    // logger back its previous activation. Raises the exception that ended the
+    // reader, if one did. Nothing when not running.
     void stop();
     bool isRunning() const { return _thread.joinable(); }
 
@@ -49,6 +51,7 @@ class QN_BASE_API LgReaderThread {
 
     std::shared_ptr<State> _state;
     std::thread _thread;
+    bool _wasActive = false;
 };
 
 }  // namespace Qn
