@@ -5,9 +5,12 @@
 //
 // A holder that dies does not leave the lock locked: the next locker takes it
 // over. On Windows the lock is a named mutex (CreateMutexA; an abandoned mutex
-// counts as acquired). On POSIX it is an advisory lock (flock) on a file named
-// after the lock in the temporary directory, where characters other than
-// letters, digits, '.', '_' and '-' are written as %XX; the file stays behind.
+// counts as acquired), so the name follows the system's rules: no backslash
+// outside a "Global\" or "Local\" prefix, at most MAX_PATH characters. On
+// POSIX it is an advisory lock (flock) on a file named after the lock in the
+// temporary directory, where characters other than letters, digits, '.', '_'
+// and '-' are written as %XX (a long name is shortened with a hash of the
+// whole); the file stays behind. Any name is accepted there.
 //
 //   ObjPtrRet<LgInterProcessLock> lock = LgInterProcessLock::create("myapp.log");
 //   { LgInterProcessLockGuard hold(lock.get()); ... }
