@@ -526,7 +526,14 @@ TEST(LgLogRegistry, ReplacingTheRegistryCarriesTheQueuesOver) {
 }  // namespace
 
 int main(int argc, char** argv) {
+#if defined(_WIN32)
+    // The full path of the program, whatever form started it.
+    char* path = nullptr;
+    _get_pgmptr(&path);
+    selfPath = path;
+#else
     selfPath = argv[0];
+#endif
     if (argc >= 3 && std::strcmp(argv[1], "role") == 0) {
         const std::string role = argv[2];
         if (role == "report") return reportRole();
