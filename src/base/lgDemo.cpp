@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <iostream>
-#include <latch>
 #include <thread>
 #include <vector>
 
@@ -20,8 +19,7 @@ namespace {
 
 constexpr int Steps = 4;
 
-void work(const LgMinorGroup& group, int worker, std::latch& together) {
-    together.arrive_and_wait();  // all at once, so that the reader merges their lines
+void work(const LgMinorGroup& group, int worker) {
     const uint64_t start = HwCounter::timeStamp();
     for (int step = 1; step <= Steps; ++step) {
         QN_LOG(group, LgTypes::Informational)
@@ -65,9 +63,8 @@ void LgDemo::logFromThreads(int threads) {
     major.setLogThreshold(LgTypes::Profiling, false);
     const LgMinorGroup group(major, "Demo.worker");
     std::vector<std::thread> workers;
-    std::latch together(threads);
     for (int worker = 0; worker < threads; ++worker) {
-        workers.emplace_back(work, std::cref(group), worker, std::ref(together));
+        workers.emplace_back(work, std::cref(group), worker);
     }
     for (std::thread& worker : workers) worker.join();
     reader.stop();

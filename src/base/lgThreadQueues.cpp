@@ -1,5 +1,7 @@
 #include <base/lgThreadQueues.h>
 
+#include <utility>
+
 #include <base/lgLockedRegistry.h>
 #include <base/lgLog.h>
 
@@ -9,15 +11,10 @@ namespace {
 
 std::shared_ptr<LgQueue::Observer> queueObserver;
 
-// The calling thread's queue; the thread's end hands it over to the reader.
-struct ThreadQueue {
-    LgQueue* queue = nullptr;
-    ~ThreadQueue() {
-        if (queue) queue->creatorExit();
-    }
-};
-
-thread_local ThreadQueue threadQueue;
+// The calling thread's queue. A plain pointer: the thread's end is watched by
+// the platform's own per-thread exit hook, which also runs in a library
+// before a join of the thread returns.
+thread_local LgQueue* threadQueue = nullptr;
 
 }  // namespace
 
@@ -27,10 +24,7 @@ void LgThreadQueues::install(std::shared_ptr<LgQueue::Observer> observer) {
     LgLog::setQueueFunction(&LgThreadQueues::getQueue);
 }
 
-LgQueue& LgThreadQueues::getQueue() {
-    LgQueue* queue = threadQueue.queue;
-    return queue ? *queue : createQueue();
-}
+LgQueue& LgThreadQueues::getQueue() { return threadQueue ? *threadQueue : createQueue(); }
 
 LgQueue& LgThreadQueues::createQueue() {
     auto queue = std::make_unique<LgQueue>(getCurrentThreadId());
@@ -38,9 +32,19 @@ LgQueue& LgThreadQueues::createQueue() {
     if (const std::shared_ptr<LgRegistry> registry = LgLog::getRegistry()) {
         registry->registerQueue(queue.get());
     }
-    threadQueue.queue = queue.release();
-    return *threadQueue.queue;
+    performWatchThreadExit(queue.get());
+    threadQueue = queue.release();
+    return *threadQueue;
 }
+
+void LgThreadQueues::releaseQueue() {
+    if (LgQueue* queue = std::exchange(threadQueue, nullptr)) {
+        performWatchThreadExit(nullptr);
+        queue->creatorExit();
+    }
+}
+
+void LgThreadQueues::threadEnded(void* queue) { static_cast<LgQueue*>(queue)->creatorExit(); }
 
 unsigned long LgThreadQueues::getCurrentThreadId() { return performGetCurrentThreadId(); }
 

@@ -2,8 +2,9 @@
 // host installs to log from several threads.
 //
 // install() makes the logger hand every thread a queue of its own, created and
-// registered at the thread's first message. When the thread ends its queue is
-// marked with creatorExit; the reader destroys it once drained. The registry
+// registered at the thread's first message. When the thread ends (or calls
+// releaseQueue) its queue is marked with creatorExit; the reader destroys it
+// once drained. The registry
 // becomes a Qn::LgLockedRegistry (queues registered so far are carried over),
 // so threads may start logging while a reader runs.
 //
@@ -30,13 +31,21 @@ class QN_BASE_API LgThreadQueues {
     // The calling thread's queue, made and registered with the logger's
     // registry at the first call.
     static LgQueue& getQueue();
+    // Hands the calling thread's queue over to the reader now (creatorExit);
+    // a later message makes a new queue. The thread's end does the same.
+    static void releaseQueue();
 
     // The operating system's id of the calling thread.
     static unsigned long getCurrentThreadId();
 
   private:
+    // The end of a thread that still had a queue: hands it over to the reader.
+    static void threadEnded(void* queue);
     static LgQueue& createQueue();
     static unsigned long performGetCurrentThreadId();
+    // Makes the calling thread's end call threadEnded with queue (null: no
+    // call).
+    static void performWatchThreadExit(LgQueue* queue);
 };
 
 }  // namespace Qn

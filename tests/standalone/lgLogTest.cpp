@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <atomic>
 #include <chrono>
+#include <condition_variable>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -13,9 +14,9 @@
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <latch>
 #include <map>
 #include <memory>
+#include <mutex>
 #include <regex>
 #include <sstream>
 #include <string>
@@ -105,6 +106,23 @@ void slowReader(const std::atomic<bool>& stop) {
     reader.flushAll();
 }
 
+// Waits until every producer has arrived (std::latch loses wake-ups with some
+// runtimes).
+class Gate {
+  public:
+    explicit Gate(int count) : _left(count) {}
+    void arriveAndWait() {
+        std::unique_lock<std::mutex> hold(_mutex);
+        if (--_left == 0) _open.notify_all();
+        _open.wait(hold, [this] { return _left == 0; });
+    }
+
+  private:
+    std::mutex _mutex;
+    std::condition_variable _open;
+    int _left;
+};
+
 struct Variant {
     int producers;
     int messages;
@@ -138,7 +156,7 @@ int threadsRole(const std::string& name, int first) {
     }
     const std::string padding(variant.padding, 'x');
     std::vector<unsigned long> threadIds(variant.producers);
-    std::latch done(variant.producers);
+    Gate done(variant.producers);
     std::vector<std::thread> producers;
     for (int k = 0; k < variant.producers; ++k) {
         producers.emplace_back([k, first, &variant, &padding, &threadIds, &done] {
@@ -146,7 +164,8 @@ int threadsRole(const std::string& name, int first) {
             for (int i = 0; i < variant.messages; ++i) {
                 QN_LOG(group, LgTypes::Warning) << 'p' << first + k << ' ' << i << padding.c_str();
             }
-            done.arrive_and_wait();
+            done.arriveAndWait();
+            Qn::LgThreadQueues::releaseQueue();
         });
     }
     for (std::thread& producer : producers) producer.join();
@@ -528,9 +547,7 @@ TEST(LgLogRegistry, ReplacingTheRegistryCarriesTheQueuesOver) {
 int main(int argc, char** argv) {
 #if defined(_WIN32)
     // The full path of the program, whatever form started it.
-    char* path = nullptr;
-    _get_pgmptr(&path);
-    selfPath = path;
+    selfPath = _pgmptr;
 #else
     selfPath = argv[0];
 #endif
