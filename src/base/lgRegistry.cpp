@@ -1,0 +1,7 @@
+#include <base/lgRegistry.h>
+
+namespace Qn {
+
+LgRegistry::~LgRegistry() = default;
+
+}  // namespace Qn
