@@ -21,7 +21,10 @@
 #include <base/inInitGuard.h>
 #include <base/inInitMgr.h>
 #include <base/inVariable.h>
+#include <base/lgDemo.h>
+#include <base/lgLog.h>
 #include <base/osFilePath.h>
+#include <base/prProfilerRegistry.h>
 #include <base/rnSamplePicture.h>
 #include <base/traceDemo.h>
 
@@ -67,6 +70,17 @@ void showExactTime() {
               << (back == time && back.isRateEqual(time) ? " (exact)" : " (differs)") << "\n";
 }
 
+// Runs one part of the tour under a profiler of its own name.
+template <class Part>
+void tour(Qn::PrProfilerRegistry& profilers, const char* title, Part part) {
+    section(title);
+    Qn::PrProfiler& profiler = profilers.create(title, Qn::PrProfiler::Hardware);
+    profiler.start();
+    part();
+    profiler.stop();
+    profiler.endCycle();
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
@@ -75,27 +89,30 @@ int main(int argc, char** argv) {
         // Initialises every package in dependency order; the library takes the
         // command line (argc is 0 afterwards).
         Qn::InInitGuard library(argc, argv);
-
-        section("Start-up");
-        std::cout << Qn::InInitMgr::getInstance();
-
-        section("Configuration");
-        std::cout << "producer threads: " << threads.getValue() << " (from " << threads.initSource()
-                  << ")\n";
-
-        section("Tracing");
-        Qn::TraceDemo::traceNestedCalls();
-
-        section("Exact time");
-        showExactTime();
-
-        section("Sampling");
+        Qn::PrProfilerRegistry profilers;
         const Qn::OsFilePath picture = Qn::OsFilePath::getTempDir() + "qndemo-samples.svg";
-        Qn::RnSamplePicture::writeUniformVersusHalton(picture.getText());
-        std::cout << "256 uniform and 256 Halton points: " << picture.getText() << "\n";
 
-        section("Shutdown");
-        std::cout << "finalising the packages in reverse order\n";
+        tour(profilers, "Start-up", [] { std::cout << Qn::InInitMgr::getInstance(); });
+        tour(profilers, "Configuration", [] {
+            std::cout << "producer threads: " << threads.getValue() << " (from "
+                      << threads.initSource() << ")\n";
+        });
+        tour(profilers, "Logging", [] { Qn::LgDemo::logFromThreads(threads.getValue()); });
+        tour(profilers, "Tracing", [] { Qn::TraceDemo::traceNestedCalls(); });
+        tour(profilers, "Exact time", [] { showExactTime(); });
+        tour(profilers, "Sampling", [&picture] {
+            Qn::RnSamplePicture::writeUniformVersusHalton(picture.getText());
+            std::cout << "256 uniform and 256 Halton points: " << picture.getText() << "\n";
+        });
+
+        section("Summary");
+        profilers.report(std::cout);
+        const char* events = Qn::LgLog::getEventFileName();
+        const char* profiling = Qn::LgLog::getProfilingFileName();
+        std::cout << "\nevents log:    " << (events ? events : "none") << "\n"
+                  << "profiling log: " << (profiling ? profiling : "none") << "\n"
+                  << "sample picture: " << picture.getText() << "\n"
+                  << "finalising the packages in reverse order\n";
         return 0;
     } catch (const Qn::ExBase& failure) {
         std::cerr << failure.getDetailedReason() << std::endl;

@@ -8,6 +8,8 @@
 #include <base/hmHeapMgr.h>
 #include <base/hwCounter.h>
 #include <base/inInitSources.h>
+#include <base/lgLog.h>
+#include <base/lgTrace.h>
 #include <base/osCpuInfo.h>
 #include <base/prSleeper.h>
 #include <base/testPerformer.h>
@@ -66,7 +68,17 @@ InInit<profiling> profilingPackage(
         Qn::PrSleeper::createInstance();
     },
     &Qn::PrSleeper::destroyInstance);
-InInit<logger> loggerPackage("logger", InPackageDeps<initialize, osal, profiling>{});
+// The logger, and the trace manager that sends trace lines through it.
+InInit<logger> loggerPackage(
+    "logger", InPackageDeps<initialize, osal, profiling>{},
+    [] {
+        Qn::LgLog::init();
+        Qn::LgTrace::installManager();
+    },
+    [] {
+        Qn::LgTrace::removeManager();
+        Qn::LgLog::destroy();
+    });
 // Validates the versions and build stamps of the loaded libraries.
 InInit<debugging> debuggingPackage("debugging", InPackageDeps<initArg, initialize, logger, osal>{},
                                    &Qn::DbgBuildInfoRegistry::initialize);
