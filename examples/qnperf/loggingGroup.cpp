@@ -3,10 +3,9 @@
 //
 //   logging <threads> <count>    threads: 1 to 4; count: messages per thread
 //
-// A cycle starts the producers together and ends when they have all
-// committed their messages; the reader drains what is left before the cycle's
+// A cycle starts the producers and ends when they have all committed their
+// messages; the reader drains what is left before the cycle's
 // results are printed.
-#include <latch>
 #include <memory>
 #include <ostream>
 #include <thread>
@@ -45,11 +44,9 @@ class LoggingGroup : public Qn::TestGroup {
 
     void runCycle(int, const char* const*) override {
         const int producers = static_cast<int>(_workload.kind) + 1;
-        std::latch together(producers);
         std::vector<std::thread> threads;
         for (int t = 0; t < producers; ++t) {
-            threads.emplace_back([this, t, &together] {
-                together.arrive_and_wait();
+            threads.emplace_back([this, t] {
                 for (unsigned i = 0; i < _workload.count; ++i)
                     QN_LOG(*_group, Qn::LgTypes::Warning) << "producer " << t << " message " << i;
             });
