@@ -8,8 +8,8 @@
 namespace {
 
 // Runs the parser over words and renders what it yields: "t=4 v ?x" and so on.
-std::string parse(const std::vector<std::string>& words, const char* specification) {
-    Qn::InOptionParser parser(words, specification);
+std::string parse(const std::vector<std::string>& words, const char* letters) {
+    Qn::InOptionParser parser(words, letters);
     std::string result;
     for (int c; (c = parser.next()) != -1;) {
         if (!result.empty()) result += ' ';
@@ -27,7 +27,7 @@ std::string parse(const std::vector<std::string>& words, const char* specificati
 TEST(InOptionParser, GetoptRules) {
     struct Case {
         std::vector<std::string> words;
-        const char* specification;
+        const char* letters;
         const char* expected;
     };
     const Case cases[] = {
@@ -45,7 +45,7 @@ TEST(InOptionParser, GetoptRules) {
     };
     for (const Case& c : cases) {
         SCOPED_TRACE(c.expected);
-        EXPECT_EQ(parse(c.words, c.specification), c.expected);
+        EXPECT_EQ(parse(c.words, c.letters), c.expected);
     }
 }
 

@@ -43,10 +43,10 @@ InContextAliasRegistry& InInitArg::registry() {
 }
 
 void InInitArg::initialize() {
-    std::string specification;
-    for (const std::string& letter : registry().keys()) specification += letter + ":";
+    std::string letters;
+    for (const std::string& letter : registry().keys()) letters += letter + ":";
     std::map<std::string, std::string> found;
-    InOptionParser parser(InContextAliasMgrBase::args(), specification.c_str());
+    InOptionParser parser(InContextAliasMgrBase::args(), letters.c_str());
     for (int option; (option = parser.next()) != -1;)
         if (option != '?' && parser.getArgument())
             found[std::string(1, static_cast<char>(option))] = parser.getArgument();

@@ -4,19 +4,18 @@
 
 namespace Qn {
 
-InOptionParser::InOptionParser(const Vector<std::string>& words, const char* specification)
-    : _words(words), _specification(specification ? specification : "") {
-    _reportMissingAsColon = !_specification.empty() && _specification[0] == ':';
+InOptionParser::InOptionParser(const Vector<std::string>& words, const char* letters)
+    : _words(words), _letters(letters ? letters : "") {
+    _reportMissingAsColon = !_letters.empty() && _letters[0] == ':';
 }
 
 bool InOptionParser::isKnown(char letter) const {
-    return letter != ':' && _specification.find(letter) != std::string::npos;
+    return letter != ':' && _letters.find(letter) != std::string::npos;
 }
 
 bool InOptionParser::takesArgument(char letter) const {
-    const size_t at = _specification.find(letter);
-    return at != std::string::npos && at + 1 < _specification.size() &&
-           _specification[at + 1] == ':';
+    const size_t at = _letters.find(letter);
+    return at != std::string::npos && at + 1 < _letters.size() && _letters[at + 1] == ':';
 }
 
 int InOptionParser::next() {

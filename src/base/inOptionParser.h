@@ -2,12 +2,12 @@
 // comma-separated sub-option lists.
 //
 // Options are single letters after "-"; several may share one word ("-ab").
-// The specification names the known letters, a letter followed by ":" takes an
+// The letter string names the known letters, a letter followed by ":" takes an
 // argument, given either in the same word ("-tvalue") or as the next word
 // ("-t value"). Words that are not options (operands) are skipped and parsing
 // goes on after them, so options may follow operands; "--" ends the options.
 // next() returns the letter, '?' (63) for an unknown letter or a missing
-// argument (':' instead for a missing argument when the specification starts
+// argument (':' instead for a missing argument when the letter string starts
 // with ':'), and -1 at the end. The first word is the program name and is not
 // parsed.
 //
@@ -28,7 +28,7 @@ namespace Qn {
 class QN_BASE_API InOptionParser {
   public:
     // The words are read, not copied: they must outlive the parser.
-    InOptionParser(const Vector<std::string>& words, const char* specification);
+    InOptionParser(const Vector<std::string>& words, const char* letters);
 
     // The next option letter, '?', ':' or -1 (see above).
     int next();
@@ -53,7 +53,7 @@ class QN_BASE_API InOptionParser {
     bool takesArgument(char letter) const;
 
     const Vector<std::string>& _words;
-    std::string _specification;
+    std::string _letters;
     bool _reportMissingAsColon;
     size_t _index = 1;
     size_t _charIndex = 0;

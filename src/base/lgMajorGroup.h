@@ -44,7 +44,7 @@ class QN_BASE_API LgMajorGroup {
     // Whether the registry is present.
     static bool isInitialized();
 
-    // Applies a specification "group=Level,group=Level,..." where Level is an
+    // Applies a group string "group=Level,group=Level,..." where Level is an
     // exact level name ("Fatal Error" keeps its blank). Each assignment sets the
     // group's threshold (creating the group); an unknown level name is reported
     // on std::cout as the exception's message and skipped, and creates no
