@@ -1,7 +1,7 @@
 // Qn::InEnv: typed reading of environment variables from the start-up snapshot
 // (InInitMgr::getEnv), with the conversions of configuration variables.
 //
-//   const int depth = Qn::InEnv::getInt("QN_TRACE_DEPTH", 8);
+//   const int threads = Qn::InEnv::getInt("QN_DEMO_THREADS", 2);
 //   if (Qn::InEnv::getBool("QN_LOG_DISABLE_TIMESTAMPS", false)) ...
 #pragma once
 
