@@ -19,6 +19,7 @@
 #include <cstdint>
 #include <random>
 #include <string>
+#include <type_traits>
 #include <vector>
 
 #include <base/dtTime.h>
@@ -129,28 +130,25 @@ void compareMixedRateChrono(benchmark::State& state) {
         state, [](int64_t c) { return Film(c); }, [](int64_t c) { return Pal(c); });
 }
 
-// 24 frames per second to NTSC's 30000/1001, toward zero and to nearest.
-void convertDtTimeIndex(benchmark::State& state, std::float_round_style style) {
+// 24 frames per second to NTSC's 30000/1001, toward zero and to nearest, by
+// convert and by convertExact.
+template <class Style>
+void convertDtTimeIndex(benchmark::State& state, Style style) {
     const Qn::Rational film(24, 1), ntsc(30000, 1001);
     for (auto _ : state) {
         for (int64_t c : counts()) {
-            benchmark::DoNotOptimize(Qn::DtTimeIndex(c).convert(film, ntsc, style));
+            if constexpr (std::is_same_v<Style, Qn::DtRounding>) {
+                benchmark::DoNotOptimize(Qn::DtTimeIndex(c).convertExact(film, ntsc, style));
+            } else {
+                benchmark::DoNotOptimize(Qn::DtTimeIndex(c).convert(film, ntsc, style));
+            }
         }
     }
     state.SetItemsProcessed(state.iterations() * Count);
 }
 
-void convertExactDtTimeIndex(benchmark::State& state, Qn::DtRounding rounding) {
-    const Qn::Rational film(24, 1), ntsc(30000, 1001);
-    for (auto _ : state) {
-        for (int64_t c : counts()) {
-            benchmark::DoNotOptimize(Qn::DtTimeIndex(c).convertExact(film, ntsc, rounding));
-        }
-    }
-    state.SetItemsProcessed(state.iterations() * Count);
-}
-
-// Frames of the first 9 hours at 29.97 drop-frame, and their labels.
+// Frames of up to 9 hours at 29.97 drop-frame (the counts made positive)
+// and their labels.
 const Qn::DtTimecode& ntscTimecode() {
     static const Qn::DtTimecode timecode(Qn::Rational(30000, 1001));
     return timecode;
@@ -237,8 +235,8 @@ BENCHMARK(compareMixedRateDtTime);
 BENCHMARK(compareMixedRateChrono);
 BENCHMARK_CAPTURE(convertDtTimeIndex, towardZero, std::round_toward_zero);
 BENCHMARK_CAPTURE(convertDtTimeIndex, nearest, std::round_to_nearest);
-BENCHMARK_CAPTURE(convertExactDtTimeIndex, towardZero, Qn::DtRounding::TowardZero);
-BENCHMARK_CAPTURE(convertExactDtTimeIndex, halfUp, Qn::DtRounding::HalfUp);
+BENCHMARK_CAPTURE(convertDtTimeIndex, exactTowardZero, Qn::DtRounding::TowardZero);
+BENCHMARK_CAPTURE(convertDtTimeIndex, exactHalfUp, Qn::DtRounding::HalfUp);
 BENCHMARK(timecodeToTextDtTimecode);
 BENCHMARK(timecodeFromTextDtTimecode);
 #if defined(QN_HAVE_AVUTIL)
