@@ -35,8 +35,8 @@ DtTimeMark DtTimeMark::evalTimeExact(const DtRefTime& refTime) const {
 DtTimeMark DtTimeMark::evalTimeExact(const DtTime& streamTime) const {
     const Rational refRate = _refTime.getRate();
     if (refRate.getNumerator() == 0) QN_THROW(DtEx::BadRefRate);
-    // streamTime - mark = P / D seconds with P and D in 128 bits (P < 2^126,
-    // |D| < 2^93); in reference ticks that is P x refRate.numerator / D.
+    // streamTime - mark = p / q seconds (|p| < 2^126, |q| < 2^62), which is
+    // p x refRate.numerator / d reference ticks with d = q x refRate.denominator.
     const Rational s = streamTime.getRate(), m = _streamTime.getRate();
     DtInt128 p =
         DtInt128{streamTime.getCount()} * (int64_t{s.getDenominator()} * m.getNumerator()) -
