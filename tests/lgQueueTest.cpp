@@ -37,7 +37,7 @@ std::vector<std::string> drain(LgQueue& q) {
 
 bool logText(LgQueue& q, const std::string& text, LgTypes::Level level = LgTypes::Warning) {
     if (!q.reserveEntry(level)) return false;
-    q << text.c_str();
+    q.getStream() << text.c_str();
     q.addEntry();
     return true;
 }
@@ -58,7 +58,7 @@ TEST(LgQueue, OverflowEntryCountsEveryLostMessage) {
         for (uint32_t i = 0; i < LgQueue::getMaxSize() - 1; ++i) {
             ASSERT_TRUE(logText(q, std::to_string(i)));
         }
-        EXPECT_TRUE(q.isFull());
+        EXPECT_TRUE(q.isEntryRingFull());
         const int lost = round == 0 ? 3 : 1;
         for (int i = 0; i < lost; ++i) EXPECT_FALSE(logText(q, "lost"));
         const std::vector<std::string> lines = drain(q);
@@ -78,11 +78,11 @@ TEST(LgQueue, StreamCutsLongTextAndDropsTheRestOfAFullRing) {
     // Six characters are left: the long text becomes "#", text that fits
     // follows it, and once the ring is full the rest of the message is dropped.
     ASSERT_TRUE(q.reserveEntry(LgTypes::Error));
-    EXPECT_EQ(q.getNumCharacters(), 6u);
-    q << "abcdefghij"
-      << "xyz"
-      << "more" << '!' << "?" << 42;
-    EXPECT_TRUE(q.hasOverflowed());
+    EXPECT_EQ(q.getStream().getNumCharacters(), 6u);
+    q.getStream() << "abcdefghij"
+                  << "xyz"
+                  << "more" << '!' << "?" << 42;
+    EXPECT_TRUE(q.getStream().hasOverflowed());
     EXPECT_TRUE(q.getStream().isFull());
     q.addEntry();
     EXPECT_FALSE(logText(q, "lost"));
@@ -92,10 +92,10 @@ TEST(LgQueue, StreamCutsLongTextAndDropsTheRestOfAFullRing) {
     EXPECT_EQ(lines[0], big);
     EXPECT_EQ(lines[1], "#xyz#!");
     EXPECT_EQ(lines[2], "overflow 1");
-    EXPECT_FALSE(q.hasOverflowed());
+    EXPECT_FALSE(q.getStream().hasOverflowed());
     // The terminator of the last text sat on the last free byte; the ring is
     // whole again once read.
-    EXPECT_EQ(q.getNumCharacters(), LgStream::getMaxSize());
+    EXPECT_EQ(q.getStream().getNumCharacters(), LgStream::getMaxSize());
     ASSERT_TRUE(logText(q, std::string(LgStream::getMaxSize(), 'w')));
     EXPECT_EQ(drain(q), std::vector<std::string>{std::string(LgStream::getMaxSize(), 'w')});
 }
@@ -261,7 +261,7 @@ void checkNothingLost(const Traffic& traffic) {
     });
     for (uint64_t i = 0; i < traffic.messages; ++i) {
         if (q.reserveEntry(LgTypes::Informational)) {
-            q << static_cast<unsigned long long>(i) << ' ' << payload.c_str();
+            q.getStream() << static_cast<unsigned long long>(i) << ' ' << payload.c_str();
             q.addEntry();
         }
     }
