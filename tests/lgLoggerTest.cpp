@@ -5,7 +5,6 @@
 
 #include <chrono>
 #include <cstdio>
-#include <cstring>
 #include <fstream>
 #include <iostream>
 #include <map>
@@ -15,6 +14,7 @@
 
 #include <base/lgLog.h>
 #include <base/lgMajorGroup.h>
+#include <base/lgMessage.h>
 #include <base/lgReader.h>
 #include <support/captureStream.h>
 #include <support/tempDirFixture.h>
@@ -60,6 +60,14 @@ void logText(LgQueue& q, LgTypes::Level level, const std::string& text, uint64_t
     q.addEntry();
 }
 
+// One message per level, "message <level name>", at ticks + level.
+void logEveryLevel(LgQueue& q, uint64_t ticks) {
+    for (uint32_t l = 0; l < LgTypes::NUM_LEVELS; ++l) {
+        const auto level = static_cast<LgTypes::Level>(l);
+        logText(q, level, std::string("message ") + LgTypes::getLevelName(level), ticks + l);
+    }
+}
+
 // The line of a message logged at the given ticks since the start.
 std::string lineOf(uint64_t ticks, uint32_t thread, const char* level, const std::string& text) {
     char prefix[64];
@@ -68,7 +76,16 @@ std::string lineOf(uint64_t ticks, uint32_t thread, const char* level, const std
     return prefix + text + "\n";
 }
 
-const char* levelName(uint32_t l) { return LgTypes::getLevelName(static_cast<LgTypes::Level>(l)); }
+// text with every "@" replaced by the next of names.
+std::string fill(std::string text, const std::vector<std::string>& names) {
+    size_t at = 0;
+    for (const std::string& name : names) {
+        at = text.find('@', at);
+        text.replace(at, 1, name);
+        at += name.size();
+    }
+    return text;
+}
 
 class LgLoggerTest : public QnTest::TempDirFixture {
   protected:
@@ -80,57 +97,31 @@ class LgLoggerTest : public QnTest::TempDirFixture {
     std::string nativeText(const std::string& relative) const { return native(relative).string(); }
 };
 
-std::string describe(const LgConfig::Destination& d) {
-    std::string out = d.enabled ? "on" : "off";
-    if (d.echo) out += " echo";
-    if (d.append) out += " append";
-    if (!d.file.empty()) out += " file " + d.file;
-    if (d.inLogDirectory) out += " in-dir";
-    if (d.needsLogDirectory) out += " needs-dir";
-    return out;
-}
-
-TEST(LgConfig, ReadsDestinationsAndSettings) {
+// The end-to-end tests below read the other variables and the destinations
+// they give.
+TEST(LgConfig, ReadsTheEdgesOfTheDestinationSyntax) {
     const struct {
         const char* value;  // of QN_LOG_WARNING; null: not set
         const char* destination;
     } rows[] = {
-        {nullptr, "on file events.log in-dir"},
-        {"", "on file events.log in-dir"},
-        {"--x.log", "off"},
-        {"%", "on echo"},
+        {nullptr, "on events.log in-dir"},
+        {"", "on events.log in-dir"},
         {"+", "on append"},
-        {"+x.log", "on append file x.log"},
-        {"%+trace.txt", "on echo append file trace.txt"},
-        {"%x", "on echo file x"},
-        {"+%x", "on append file %x"},
-        {"plain.log", "on file plain.log"},
+        {"%+", "on echo append"},
+        {"+%x", "on append %x"},
+        {"--", "off"},
+        {"-x", "on -x"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.value ? row.value : "(not set)");
-        const LgConfig config =
-            configOf(row.value ? Variables{{"QN_LOG_WARNING", row.value}} : Variables{});
-        EXPECT_EQ(describe(config.levels[LgTypes::Warning]), row.destination);
+        const LgConfig::Destination d =
+            configOf(row.value ? Variables{{"QN_LOG_WARNING", row.value}} : Variables{})
+                .levels[LgTypes::Warning];
+        const std::string seen = std::string(d.enabled ? "on" : "off") + (d.echo ? " echo" : "") +
+                                 (d.append ? " append" : "") + (d.file.empty() ? "" : " ") +
+                                 d.file + (d.inLogDirectory ? " in-dir" : "");
+        EXPECT_EQ(seen, row.destination);
     }
-    const LgConfig defaults = configOf({});
-    EXPECT_EQ(describe(defaults.levels[LgTypes::InternalError]),
-              "on file events.log in-dir needs-dir");
-    EXPECT_EQ(describe(defaults.levels[LgTypes::Tracing]), "on echo");
-    EXPECT_EQ(describe(defaults.levels[LgTypes::Profiling]), "on file prof.log in-dir needs-dir");
-    EXPECT_TRUE(defaults.logDirectory.empty() && !defaults.defaultLevel && !defaults.groups &&
-                !defaults.lockName && !defaults.blockingTrace && defaults.timeStamps);
-
-    const LgConfig set = configOf({{"S2M_TEST_DIR", "d"},
-                                   {"QN_LOG_DEFAULT_LEVEL", "Fatal Error"},
-                                   {"QN_LOG_GROUPS", "Io=Error"},
-                                   {"QN_BLOCKING_TRACE", ""},
-                                   {"QN_INTERNAL_INTERPROCESS_LOG_LOCK", "lock"},
-                                   {"QN_LOG_DISABLE_TIMESTAMPS", ""}});
-    EXPECT_EQ(set.logDirectory, "d");
-    EXPECT_EQ(set.defaultLevel, LgTypes::FatalError);
-    EXPECT_EQ(set.groups, "Io=Error");
-    EXPECT_EQ(set.lockName, "lock");
-    EXPECT_TRUE(set.blockingTrace && !set.timeStamps);
     EXPECT_FALSE(configOf({{"QN_LOG_DEFAULT_LEVEL", "warning"}}).defaultLevel);
 }
 
@@ -145,28 +136,25 @@ TEST_F(LgLoggerTest, DefaultsGoToTheLogDirectoryNamedAsThePlatformWritesThem) {
             LgLogger logger(configOf({{"S2M_TEST_DIR", directory}}), fixedClock);
             std::ostringstream setup;
             logger.displaySetup(setup);
-            EXPECT_EQ(setup.str(), "===== Log Setup =====\nInternal Error: " + events +
-                                       " \nFatal Error: " + events + " \nError: " + events +
-                                       " \nWarning: " + events + " \nInformational: " + events +
-                                       " \nTracing: stdout, \nProfiling: " + profiling +
-                                       " \n===== End Setup =====\n");
+            EXPECT_EQ(setup.str(), fill("===== Log Setup =====\nInternal Error: @ \n"
+                                        "Fatal Error: @ \nError: @ \nWarning: @ \n"
+                                        "Informational: @ \nTracing: stdout, \nProfiling: @ \n"
+                                        "===== End Setup =====\n",
+                                        {events, events, events, events, events, profiling}));
             EXPECT_EQ(logger.getEventFileName(), events);
             EXPECT_EQ(logger.getProfilingFileName(), profiling);
             LgQueue q(0x2a);
             logger.getRegistry()->registerQueue(&q);
-            for (uint32_t l = 0; l < LgTypes::NUM_LEVELS; ++l) {
-                logText(q, LgTypes::Level(l), std::string("message ") + levelName(l),
-                        0x100000005 + l);
-            }
+            logEveryLevel(q, 0x100000005);
             Qn::LgReader(logger).flushAll();
             logger.getRegistry()->deregisterQueue(&q);
         }
-        std::string eventLines;
+        std::string lines = banner;
         for (uint32_t l = 0; l <= LgTypes::Informational; ++l) {
-            eventLines +=
-                lineOf(0x100000005 + l, 0x2a, levelName(l), std::string("message ") + levelName(l));
+            const char* name = LgTypes::getLevelName(static_cast<LgTypes::Level>(l));
+            lines += lineOf(0x100000005 + l, 0x2a, name, std::string("message ") + name);
         }
-        EXPECT_EQ(text("logs/events.log"), banner + eventLines + stopped);
+        EXPECT_EQ(text("logs/events.log"), lines + stopped);
         EXPECT_EQ(text("logs/prof.log"),
                   banner + lineOf(0x10000000b, 0x2a, "Profiling", "message Profiling") + stopped);
         EXPECT_EQ(out.str(), lineOf(0x10000000a, 0x2a, "Tracing", "message Tracing"));
@@ -188,8 +176,8 @@ TEST_F(LgLoggerTest, DestinationSyntaxSharedFilesAndBareLines) {
                               {"QN_LOG_INFORMATIONAL", info},
                               {"QN_LOG_TRACING", "%" + errors},
                               {"QN_LOG_PROFILING", "--"},
-                              {"QN_LOG_DISABLE_TIMESTAMPS", "1"},
-                              {"QN_BLOCKING_TRACE", "1"},
+                              {"QN_LOG_DISABLE_TIMESTAMPS", ""},
+                              {"QN_BLOCKING_TRACE", ""},
                               {"QN_LOG_DEFAULT_LEVEL", "Informational"},
                               {"QN_LOG_GROUPS", "Main=Error,Io=Bogus"}}),
                     fixedClock);
@@ -199,42 +187,53 @@ TEST_F(LgLoggerTest, DestinationSyntaxSharedFilesAndBareLines) {
               << " blocking " << Qn::LgLog::getBlockingTrace() << "\n";
     LgQueue q(1);
     Qn::LgLog::getRegistry()->registerQueue(&q);
-    for (uint32_t l = 0; l < LgTypes::NUM_LEVELS; ++l) {
-        logText(q, LgTypes::Level(l), std::string("message ") + levelName(l), l);
-    }
+    logEveryLevel(q, 0);
     Qn::LgReader().flushAll();
     Qn::LgLog::getRegistry()->deregisterQueue(&q);
     Qn::LgLog::destroy();
     Qn::LgMajorGroup::setDefaultThreshold(LgTypes::Warning);
-    EXPECT_EQ(out.str(),
-              "Invalid level string specified: Bogus\n"
-              "===== Log Setup =====\n"
-              "Internal Error: Disabled\n"
-              "Fatal Error: " +
-                  fatal +
-                  " [Append]\n"
-                  "Error: stdout, " +
-                  errors +
-                  " [Append]\n"
-                  "Warning: stdout, \n"
-                  "Informational: " +
-                  info +
-                  " \n"
-                  "Tracing: stdout, " +
-                  errors +
-                  " \n"
-                  "Profiling: Disabled\n"
-                  "===== End Setup =====\n"
-                  "Major Groups:\n"
-                  "                    Main Tracing\n"
-                  "new group 248 blocking 1\n"
-                  "message Error\nmessage Warning\nmessage Tracing\n");
+    EXPECT_EQ(out.str(), fill("Invalid level string specified: Bogus\n===== Log Setup =====\n"
+                              "Internal Error: Disabled\nFatal Error: @ [Append]\n"
+                              "Error: stdout, @ [Append]\nWarning: stdout, \n"
+                              "Informational: @ \nTracing: stdout, @ \nProfiling: Disabled\n"
+                              "===== End Setup =====\nMajor Groups:\n"
+                              "                    Main Tracing\nnew group 248 blocking 1\n"
+                              "message Error\nmessage Warning\nmessage Tracing\n",
+                              {fatal, errors, info, errors}));
     EXPECT_EQ(text("fatal.txt"), "old\n" + startup + "message Fatal Error\n" + stopped);
     // Error and Tracing name the same file: one sink, one banner.
     EXPECT_EQ(text("errors.txt"), startup + "message Error\nmessage Tracing\n" + stopped);
     EXPECT_EQ(text("info.txt"), startup + "message Informational\n" + stopped);
     EXPECT_FALSE(std::filesystem::exists(native("logs/events.log")));
-    EXPECT_FALSE(Qn::LgLog::isInitialized());
+}
+
+// QN_LOG through the caller's queue: a disabled level evaluates nothing, and
+// the statement is safe after an if without braces. LgMessage builds one
+// message over several statements.
+TEST_F(LgLoggerTest, QnLogAndLgMessageWriteThroughTheCallersQueue) {
+    Qn::LgLog::init(configOf({{"S2M_TEST_DIR", nativeText("logs")},
+                              {"QN_LOG_GROUPS", "Msg=Warning"},
+                              {"QN_LOG_DISABLE_TIMESTAMPS", ""}}));
+    LgQueue& q = Qn::LgLog::getQueue();
+    Qn::LgLog::getRegistry()->registerQueue(&q);
+    {
+        const Qn::LgMinorGroup group(Qn::LgMajorGroup::getInstanceForName("Msg"), "Msg.sub");
+        int evaluated = 0;
+        auto operand = [&evaluated] { return ++evaluated; };
+        QN_LOG(group, LgTypes::Informational) << "hidden " << operand();
+        if (evaluated > 0)
+            QN_LOG(group, LgTypes::Error) << "not taken";
+        else
+            QN_LOG(group, LgTypes::Warning) << "value " << operand() << ", " << 2.5;
+        EXPECT_EQ(evaluated, 1);
+        Qn::LgMessage message(LgTypes::Error);
+        EXPECT_TRUE(message.isReserved());
+        for (int v : {1, 2, 3}) message << v << ' ';
+    }
+    Qn::LgReader().flushAll();
+    Qn::LgLog::getRegistry()->deregisterQueue(&q);
+    Qn::LgLog::destroy();
+    EXPECT_EQ(text("logs/events.log"), startup + "value 1, 2.500000\n1 2 3 \n" + stopped);
 }
 
 TEST_F(LgLoggerTest, UnusableLogDirectoryDropsTheDefaultFiles) {
@@ -250,13 +249,24 @@ TEST_F(LgLoggerTest, UnusableLogDirectoryDropsTheDefaultFiles) {
     EXPECT_EQ(logger.getLevelOutput(LgTypes::Warning), nullptr);
 }
 
+// A registry of the host's own, which the reader reads through getQueueList.
+class ListRegistry : public Qn::LgRegistry {
+  public:
+    void registerQueue(LgQueue* queue) override { queues.push_back(queue); }
+    void deregisterQueue(LgQueue* queue) override { queues.remove(queue); }
+    Qn::List<LgQueue*> getQueueList() override { return queues; }
+    Qn::List<LgQueue*> queues;
+};
+
+// Merges by time stamp, ties in registration order; counts the overflow;
+// destroys a queue whose producer has exited, through the logger's registry or
+// through one that replaced it.
 TEST_F(LgLoggerTest, ReaderMergesByStampTiesInListOrderAndCountsOverflow) {
     const std::string lock =
         "qn-lgtest/" + std::to_string(std::chrono::steady_clock::now().time_since_epoch().count());
     LgLogger logger(configOf({{"S2M_TEST_DIR", nativeText("logs")},
                               {"QN_INTERNAL_INTERPROCESS_LOG_LOCK", lock}}),
                     fixedClock);
-    ASSERT_NE(logger.getInterProcessLock(), nullptr);
     LgQueue a(0xa), b(0xb), c(0x2a);
     auto* exited = new LgQueue(0xe);
     for (LgQueue* q : {&a, exited, &b, &c}) logger.getRegistry()->registerQueue(q);
@@ -279,51 +289,28 @@ TEST_F(LgLoggerTest, ReaderMergesByStampTiesInListOrderAndCountsOverflow) {
     reader.flushAll();
     EXPECT_FALSE(reader.eventsPending());
     EXPECT_EQ(logger.getRegistry()->getQueueList(), (Qn::List<LgQueue*>{&a, &b, &c}));
-    for (LgQueue* q : {&a, &b, &c}) logger.getRegistry()->deregisterQueue(q);
-    logger.close();
 
-    std::istringstream in(text("logs/events.log"));
-    std::vector<std::string> lines;
-    for (std::string line; std::getline(in, line);) lines.push_back(line + "\n");
-    ASSERT_EQ(lines.size(), 4 + 4 + kept + 1 + 1);
-    EXPECT_EQ(lines[5], lineOf(t, 0xb, "Warning", "b at t"));
-    EXPECT_EQ(lines[6], lineOf(t + 1, 0xb, "Warning", "b at t+1"));
-    EXPECT_EQ(lines[7], lineOf(t + 2, 0xa, "Warning", "a at t+2"));
-    EXPECT_EQ(lines[8], lineOf(t + 3, 0x2a, "Error", "c"));
-    EXPECT_EQ(lines[8 + kept], lineOf(t + 3, 0x2a, "Informational", "Event overflow [3]"));
-    EXPECT_EQ(lines.back(), stopped);
-}
-
-// A registry of the host's own, read through getQueueList.
-class ListRegistry : public Qn::LgRegistry {
-  public:
-    void registerQueue(LgQueue* queue) override { queues.push_back(queue); }
-    void deregisterQueue(LgQueue* queue) override { queues.remove(queue); }
-    Qn::List<LgQueue*> getQueueList() override { return queues; }
-    Qn::List<LgQueue*> queues;
-};
-
-TEST_F(LgLoggerTest, ReplacedRegistryTakesTheQueuesAndServesTheReader) {
-    LgLogger logger(configOf({{"S2M_TEST_DIR", nativeText("logs")}}), fixedClock);
-    LgQueue a(1);
-    auto* exited = new LgQueue(2);
-    logger.getRegistry()->registerQueue(&a);
-    logger.getRegistry()->registerQueue(exited);
     const auto own = std::make_shared<ListRegistry>();
-    const auto first = logger.setRegistry(own);
-    EXPECT_TRUE(first->getQueueList().empty());
-    EXPECT_EQ(own->queues, (Qn::List<LgQueue*>{&a, exited}));
-    logText(a, LgTypes::Warning, "through my registry", 7);
+    exited = new LgQueue(0xe);
+    logger.getRegistry()->registerQueue(exited);
+    EXPECT_TRUE(logger.setRegistry(own)->getQueueList().empty());
+    EXPECT_EQ(own->queues, (Qn::List<LgQueue*>{&a, &b, &c, exited}));
     exited->creatorExit();
-    Qn::LgReader reader(logger);
+    logText(a, LgTypes::Warning, "a through the host's registry", t + 9);
     reader.flushAll();
-    EXPECT_EQ(own->queues, Qn::List<LgQueue*>{&a});
+    EXPECT_EQ(own->queues, (Qn::List<LgQueue*>{&a, &b, &c}));
     EXPECT_EQ(logger.setRegistry(nullptr), own);
-    EXPECT_EQ(own->queues.size(), 1u);  // nothing to carry over to
+    EXPECT_EQ(own->queues.size(), 3u);  // nothing to carry over to
     EXPECT_FALSE(reader.flushEarliest());
     logger.close();
+
+    std::string expected =
+        banner + lineOf(t, 0xa, "Warning", "a at t") + lineOf(t, 0xb, "Warning", "b at t") +
+        lineOf(t + 1, 0xb, "Warning", "b at t+1") + lineOf(t + 2, 0xa, "Warning", "a at t+2");
+    for (uint32_t i = 0; i < kept; ++i) expected += lineOf(t + 3, 0x2a, "Error", "c");
     EXPECT_EQ(text("logs/events.log"),
-              banner + lineOf(7, 1, "Warning", "through my registry") + stopped);
+              expected + lineOf(t + 3, 0x2a, "Informational", "Event overflow [3]") +
+                  lineOf(t + 9, 0xa, "Warning", "a through the host's registry") + stopped);
 }
 
 }  // namespace

@@ -28,6 +28,12 @@ LgConfig::Destination defaultDestination(LgTypes::Level l) {
 
 }  // namespace
 
+LgConfig::LgConfig() {
+    for (uint32_t l = 0; l < LgTypes::NUM_LEVELS; ++l) {
+        levels[l] = defaultDestination(static_cast<LgTypes::Level>(l));
+    }
+}
+
 LgConfig::Destination LgConfig::parseDestination(const char* value) {
     QN_ASSERT(value);
     Destination d;
@@ -51,8 +57,7 @@ LgConfig LgConfig::read(const Lookup& variable) {
     if (const char* directory = variable("S2M_TEST_DIR")) config.logDirectory = directory;
     for (uint32_t l = 0; l < LgTypes::NUM_LEVELS; ++l) {
         const char* value = variable(levelVariables[l]);
-        config.levels[l] = value && *value ? parseDestination(value)
-                                           : defaultDestination(static_cast<LgTypes::Level>(l));
+        if (value && *value) config.levels[l] = parseDestination(value);
     }
     if (const char* name = variable("QN_LOG_DEFAULT_LEVEL")) {
         try {

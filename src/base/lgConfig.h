@@ -22,8 +22,9 @@
 //   QN_LOG_DISABLE_TIMESTAMPS  (set) lines without the time and thread prefix
 //
 // read() is a pure function of the variables it is given, so a test passes a
-// table instead of the environment; fromEnvironment() reads the start-up
-// snapshot (Qn::InInitMgr::getEnv).
+// table instead of the environment (or sets the fields of a default
+// configuration); fromEnvironment() reads the start-up snapshot
+// (Qn::InInitMgr::getEnv).
 //
 //   Qn::LgConfig config = Qn::LgConfig::read([](const char* name) -> const char* {
 //       return std::strcmp(name, "QN_LOG_WARNING") == 0 ? "%" : nullptr;
@@ -60,6 +61,9 @@ class QN_BASE_API LgConfig {
 
     // The value of a variable, or null when it is not set.
     using Lookup = std::function<const char*(const char* name)>;
+
+    // The configuration when no variable is set.
+    LgConfig();
 
     static LgConfig read(const Lookup& variable);
     static LgConfig fromEnvironment();

@@ -4,7 +4,6 @@
 // environment that the test sets.
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <chrono>
 #include <csignal>
 #include <cstdlib>
@@ -33,7 +32,7 @@ namespace {
 const char* selfPath = nullptr;
 constexpr int Lines = 300;
 
-// Logs "w<k> <i>" lines padded to 90 characters while the reader thread writes
+// Logs "w<k> <i>" lines padded with 80 "x" while the reader thread writes
 // them into the shared file.
 int writerRole(int k) {
     Qn::LgLog::init();
@@ -83,6 +82,7 @@ TEST_F(LgLogTest, ProcessesSharingTheLockWriteWholeLinesAndSurviveADeadHolder) {
         setEnv(level, shared);
     }
     setEnv("QN_LOG_PROFILING", "--");
+    setEnv("QN_LOG_DISABLE_TIMESTAMPS", "1");
     setEnv("S2M_TEST_DIR", native("logs").string());
     setEnv(
         "QN_INTERNAL_INTERPROCESS_LOG_LOCK",
@@ -106,21 +106,21 @@ TEST_F(LgLogTest, ProcessesSharingTheLockWriteWholeLinesAndSurviveADeadHolder) {
     for (const QnTest::ChildResult& result : results) EXPECT_EQ(result.status, 0) << result.output;
 
     // Every line whole, each writer's lines complete and in order.
-    static const std::regex message(R"(\d{10} \d{10} \(0x[0-9a-f]{8}\) Warning: w(\d) (\d+)x{80})");
-    static const std::regex banner(
-        R"(===== (Message Logger (Startup|Stopped) =====|Started on .{24}|Clock Frequency: .*)|)");
+    static const std::regex message(R"(w(\d) (\d+)x{80})");
     std::map<int, int> next;
     int startups = 0, stops = 0;
     std::ifstream in(native("shared.log"));
     for (std::string line; std::getline(in, line);) {
         std::smatch m;
-        if (std::regex_match(line, m, message)) {
+        if (line == "===== Message Logger Startup =====") {
+            ++startups;
+        } else if (line == "===== Message Logger Stopped =====") {
+            ++stops;
+        } else if (std::regex_match(line, m, message)) {
             const int w = std::stoi(m[1].str());
             EXPECT_EQ(std::stoi(m[2].str()), next[w]++) << line;
         } else {
-            EXPECT_TRUE(std::regex_match(line, banner)) << "broken line: " << line;
-            startups += line == "===== Message Logger Startup =====";
-            stops += line == "===== Message Logger Stopped =====";
+            ADD_FAILURE() << "broken line: " << line;
         }
     }
     EXPECT_EQ(next.size(), size_t(Writers));
