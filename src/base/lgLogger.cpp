@@ -18,12 +18,18 @@ namespace {
 // The prefix without the level name: "hhhhhhhhhh llllllllll (0xtttttttt) " and
 // ": " after the name.
 constexpr size_t PrefixSize = 10 + 1 + 10 + 4 + 8 + 2 + 2;
+static_assert(PrefixSize + sizeof "Internal Error" - 1 <= LgLogger::PrefixRoom,
+              "the longest prefix fits in the room before the text");
 
-// Writes value in decimal, zero-filled to ten digits.
+// Writes value in decimal, zero-filled to ten digits, two digits at a time.
 char* putDecimal10(char* out, uint32_t value) {
-    for (int i = 9; i >= 0; --i) {
-        out[i] = static_cast<char>('0' + value % 10);
-        value /= 10;
+    static const char pairs[] =
+        "00010203040506070809101112131415161718192021222324252627282930313233343536373839"
+        "40414243444546474849505152535455565758596061626364656667686970717273747576777879"
+        "8081828384858687888990919293949596979899";
+    for (int i = 8; i >= 0; i -= 2) {
+        std::memcpy(out + i, pairs + 2 * (value % 100), 2);
+        value /= 100;
     }
     return out + 10;
 }

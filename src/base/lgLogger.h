@@ -73,7 +73,8 @@ class QN_BASE_API LgLogger {
     // The destinations of the seven levels, as "Level: stdout, file [Append]".
     void displaySetup(std::ostream& out) const;
 
-    // Writes one line to the level's sinks. Reader side.
+    // Writes one line to the level's sinks: the one place where an entry takes
+    // its form and reaches its sinks. Reader side. REQUIRES: a valid level.
     void writeLine(const Line& line);
     // Pushes the buffered lines of every sink to the system.
     void flush();

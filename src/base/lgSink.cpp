@@ -30,8 +30,9 @@ std::unique_ptr<LgSink> LgSink::openFile(const char* name, bool append) {
 
 LgSink::~LgSink() { close(); }
 
+// Straight to the buffer: a line needs none of the stream's formatting state.
 void LgSink::write(const char* data, size_t size) {
-    _out->write(data, static_cast<std::streamsize>(size));
+    _out->rdbuf()->sputn(data, static_cast<std::streamsize>(size));
 }
 
 void LgSink::flush() { _out->flush(); }
