@@ -4,9 +4,9 @@
 
 #include <atomic>
 #include <chrono>
+#include <cstdio>
 #include <fstream>
 #include <map>
-#include <regex>
 #include <string>
 #include <thread>
 #include <utility>
@@ -63,23 +63,23 @@ struct Variant {
 // order, and the overflow entries; every other line must be a banner.
 // Returns the number of lines and of the lost messages counted.
 std::pair<uint64_t, uint64_t> countMessages(const std::string& file) {
-    static const std::regex message(R"(p(\d+) (\d+)|Event overflow \[(\d+)\])");
     uint64_t lines = 0, lost = 0;
     std::map<int, long long> last;
     std::ifstream in(file);
     for (std::string line; std::getline(in, line);) {
-        std::smatch m;
-        if (!std::regex_match(line, m, message)) {
+        int k;
+        long long i;
+        unsigned long long count;
+        if (std::sscanf(line.c_str(), "p%d %lld", &k, &i) == 2) {
+            EXPECT_GT(i, last.count(k) ? last[k] : -1) << line;
+            last[k] = i;
+            ++lines;
+        } else if (std::sscanf(line.c_str(), "Event overflow [%llu]", &count) == 1) {
+            lost += count;
+        } else {
             EXPECT_TRUE(line == "===== Message Logger Startup =====" ||
                         line == "===== Message Logger Stopped =====")
                 << "broken line: " << line;
-        } else if (m[3].matched) {
-            lost += std::stoull(m[3].str());
-        } else {
-            const int k = std::stoi(m[1].str());
-            EXPECT_GT(std::stoll(m[2].str()), last.count(k) ? last[k] : -1) << line;
-            last[k] = std::stoll(m[2].str());
-            ++lines;
         }
     }
     return {lines, lost};
