@@ -4,13 +4,18 @@ PRESET ?= release
 PREFIX ?= $(CURDIR)/install
 JOBS   ?= $(shell nproc)
 
-.PHONY: all demo test asan tsan windows bench fuzz install format clean
+.PHONY: all configure demo test asan tsan windows bench fuzz install format clean
 
-all:
-	cmake --preset $(PRESET)
+all: configure
 	cmake --build --preset $(PRESET) -j $(JOBS)
 
-demo: all
+configure:
+	cmake --preset $(PRESET)
+
+# Builds only the library and the demo, so a first run does not wait for every
+# test and benchmark.
+demo: configure
+	cmake --build --preset $(PRESET) -j $(JOBS) --target qndemo
 	./build/$(PRESET)/examples/qndemo
 
 test: all

@@ -131,7 +131,7 @@ void readerQnLog(benchmark::State& state) {
         for (int i = 0; i < PerQueue; ++i) {
             for (Qn::LgQueue* queue : {&first, &second}) {
                 queue->reserveEntry(Qn::LgTypes::Warning);
-                *queue << "request served in " << i;
+                queue->getStream() << "request served in " << i;
                 queue->addEntry();
             }
         }

@@ -44,7 +44,7 @@ class LgMessage {
     // Writes a value with the stream's insertion operators, when reserved.
     template <class T>
     LgMessage& operator<<(const T& value) {
-        if (_reserved) _queue << value;
+        if (_reserved) _queue.getStream() << value;
         return *this;
     }
 

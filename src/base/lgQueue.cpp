@@ -58,7 +58,7 @@ LgQueue::~LgQueue() noexcept(false) {
                    "_beg == _end");
 }
 
-bool LgQueue::isFull() const {
+bool LgQueue::isEntryRingFull() const {
     const uint32_t end = _end.load(std::memory_order_acquire);
     const uint32_t beg = _beg.load(std::memory_order_acquire);
     return ((end + 1) & EntryMask) == beg || ((end + 2) & EntryMask) == beg;
@@ -71,12 +71,12 @@ bool LgQueue::reserveEntry(LgTypes::Level level) {
 bool LgQueue::reserveEntry(LgTypes::Level level, uint64_t timeStamp) {
     QN_ASSERT_TEXT(level < LgTypes::NUM_LEVELS, "l < NUM_LEVELS");
     if (_suppressCount > 0) return false;
-    if (LgStream::isFull() || isFull()) {
+    if (_stream.isFull() || isEntryRingFull()) {
         countLostMessage(timeStamp);
         return false;
     }
     _entries[_end.load(std::memory_order_relaxed)].reset(false, level, timeStamp);
-    resetOutputFlags();
+    _stream.resetOutputFlags();
     _reserved = true;
     return true;
 }
@@ -95,14 +95,14 @@ void LgQueue::countLostMessage(uint64_t timeStamp) {
 void LgQueue::addEntry() {
     if (!_reserved) return;
     _reserved = false;
-    if (!(getOutputFlags() & TextWritten)) return;
-    if (isStringOpen()) completeString();
+    if (!(_stream.getOutputFlags() & LgStream::TextWritten)) return;
+    if (_stream.isStringOpen()) _stream.completeString();
     const uint32_t end = _end.load(std::memory_order_relaxed);
     const uint32_t beg = _beg.load(std::memory_order_acquire);
     QN_ASSERT_TEXT(((end + 1) & EntryMask) != beg, "_end+1U != _beg");
     QN_ASSERT_TEXT(((end + 2) & EntryMask) != beg, "_end+2U != _beg");
     _end.store((end + 1) & EntryMask, std::memory_order_release);
-    if (_observer) _observer->entryAdded(*this);
+    if (_observeTraffic) _observer->entryAdded(*this);
 }
 
 uint32_t LgQueue::head() const {
@@ -121,12 +121,13 @@ void LgQueue::removeEntry() {
     Entry& entry = _entries[beg];
     if (entry.isOverflowEntry()) entry.claimOverflowCount();
     _beg.store((beg + 1) & EntryMask, std::memory_order_release);
-    if (_observer) _observer->entryRemoved(*this);
+    if (_observeTraffic) _observer->entryRemoved(*this);
 }
 
 std::shared_ptr<LgQueue::Observer> LgQueue::changeObserver(std::shared_ptr<Observer> observer) {
     QN_ASSERT_TEXT(!_observer, "_observer.isNull()");
     _observer.swap(observer);
+    _observeTraffic = _observer && _observer->observesTraffic();
     return observer;
 }
 

@@ -1,30 +1,29 @@
 // Qn::LgQueue: the message queue of one producer thread, read by one reader
-// thread without locks: a ring of 1024 entries over the character ring of
-// Qn::LgStream, from which it derives.
+// thread without locks: a ring of 1024 entries, each of whose messages has its
+// text in the queue's character ring (Qn::LgStream, getStream()).
 //
-// The producer reserves an entry with a level, writes the text with the
-// stream's insertion operators and commits it; the reader takes the oldest
-// entry, its text and removes it. The producer never waits: when the entry
-// ring or the text ring is full the message is counted in one overflow entry,
-// whose count says how many messages were lost and whose time stamp says when
-// the loss began. Two entries are always kept back, one so that an overflow
-// entry can always be made.
+// The producer reserves an entry with a level, writes the text into the
+// stream with its insertion operators and commits the entry; the reader takes
+// the oldest entry, its text and removes it. The producer never waits: when
+// the entry ring or the text ring is full the message is counted in one
+// overflow entry, whose count says how many messages were lost and whose time
+// stamp says when the loss began. Two entries are always kept back, one so
+// that an overflow entry can always be made.
 //
-//   Producer                                 Reader
-//   if (q.reserveEntry(LgTypes::Warning)) {  while (!q.isEmpty()) {
-//       q << "disk " << n << " is full";         const auto& e = q.readEntry();
-//       q.addEntry();                            if (e.isOverflowEntry()) lost +=
-//       q.takeOverflowCount();
-//   }                                            else q.getStream() >> text;
-//                                                q.removeEntry();
-//                                            }
+//   Producer                                      Reader
+//   if (q.reserveEntry(LgTypes::Warning)) {       while (!q.isEmpty()) {
+//       q.getStream() << "disk " << n << " full";     if (q.readEntry().isOverflowEntry())
+//       q.addEntry();                                     lost += q.takeOverflowCount();
+//   }                                                 else q.getStream() >> text;
+//                                                     q.removeEntry();
+//                                                 }
 //
 // Thread-safety: the producer alone reserves, writes, commits and calls
 // creatorExit; the reader alone reads, takes counts and removes. Each side
 // publishes its position with release ordering after the data it guards (text
 // and entry first, then the position) and reads the other's with acquire
-// ordering. isEmpty, isFull and isCreatorAlive may be asked from any thread.
-// The observer is called on the thread that caused the event.
+// ordering. isEmpty, isEntryRingFull and isCreatorAlive may be asked from any
+// thread. The observer is called on the thread that caused the event.
 #pragma once
 
 #include <atomic>
@@ -36,7 +35,7 @@
 
 namespace Qn {
 
-class QN_BASE_API LgQueue : public LgStream {
+class QN_BASE_API LgQueue {
   public:
     static constexpr uint32_t NumEntries = 1024;
     static constexpr uint32_t EntryMask = NumEntries - 1;
@@ -96,6 +95,10 @@ class QN_BASE_API LgQueue : public LgStream {
     class QN_BASE_API Observer {
       public:
         virtual ~Observer();
+        // Whether the observer wants entryAdded and entryRemoved; asked once,
+        // when it is installed, so that an observer of waitForSpace alone costs
+        // nothing per message.
+        virtual bool observesTraffic() const { return true; }
         // A message entry was committed (producer thread).
         virtual void entryAdded(LgQueue& queue) = 0;
         // An entry was removed (reader thread).
@@ -150,10 +153,13 @@ class QN_BASE_API LgQueue : public LgStream {
     bool isEmpty() const {
         return _beg.load(std::memory_order_acquire) == _end.load(std::memory_order_acquire);
     }
-    // Fewer than three free entries: no message entry can be reserved.
-    bool isFull() const;
-    LgStream& getStream() { return *this; }
-    const LgStream& getStream() const { return *this; }
+    // Fewer than three free entries: no message entry can be reserved (the
+    // text ring may be full too: getStream().isFull()).
+    bool isEntryRingFull() const;
+    bool isFull() const { return isEntryRingFull(); }
+    // The ring of the messages' texts.
+    LgStream& getStream() { return _stream; }
+    const LgStream& getStream() const { return _stream; }
     uint32_t getThreadId() const { return _threadId; }
 
     // Producer: says that no entry will come any more; the reader may destroy
@@ -178,6 +184,7 @@ class QN_BASE_API LgQueue : public LgStream {
     // starts one in the slot kept back for it.
     void countLostMessage(uint64_t timeStamp);
 
+    LgStream _stream;
     Entry* _entries;
     // Reader side: the oldest unread entry.
     alignas(64) std::atomic<uint32_t> _beg{0};
@@ -188,6 +195,8 @@ class QN_BASE_API LgQueue : public LgStream {
     uint32_t _threadId;
     uint32_t _suppressCount = 0;
     std::shared_ptr<Observer> _observer;
+    // The observer wants entryAdded and entryRemoved.
+    bool _observeTraffic = false;
 };
 
 }  // namespace Qn

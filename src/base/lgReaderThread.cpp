@@ -18,9 +18,9 @@ class LgReaderThread::State {
 
     // The thread's loop: write while there is work, sleep when there is none,
     // leave once stopping and drained.
-    void run() {
+    void run(LgLogger& logger) {
         try {
-            LgReader reader;
+            LgReader reader(logger);
             for (;;) {
                 const bool stopRequested = stopping.load(std::memory_order_acquire);
                 if (reader.flushEarliest()) {
@@ -78,6 +78,7 @@ class LgReaderThread::State {
 class LgReaderThread::SpaceObserver : public LgQueue::Observer {
   public:
     explicit SpaceObserver(std::shared_ptr<State> state) : _state(std::move(state)) {}
+    bool observesTraffic() const override { return false; }
     void entryAdded(LgQueue&) override {}
     void entryRemoved(LgQueue&) override {}
     void waitForSpace(LgQueue& queue, int size) override { _state->waitForSpace(queue, size); }
@@ -87,7 +88,10 @@ class LgReaderThread::SpaceObserver : public LgQueue::Observer {
 };
 
 LgReaderThread::LgReaderThread(int idleMicroseconds)
-    : _state(std::make_shared<State>(idleMicroseconds)) {}
+    : _state(std::make_shared<State>(idleMicroseconds)), _logger(nullptr) {}
+
+LgReaderThread::LgReaderThread(LgLogger& logger, int idleMicroseconds)
+    : _state(std::make_shared<State>(idleMicroseconds)), _logger(&logger) {}
 
 LgReaderThread::~LgReaderThread() {
     try {
@@ -99,18 +103,19 @@ LgReaderThread::~LgReaderThread() {
 
 void LgReaderThread::start() {
     QN_ASSERT(!isRunning());
+    _running = _logger ? _logger : &LgLog::getLogger();
     _state->stopping.store(false, std::memory_order_relaxed);
     _state->failure = nullptr;
     _state->running.store(true, std::memory_order_release);
-    _thread = std::thread([state = _state] { state->run(); });
-    _wasActive = LgLog::setLoggerActivation(true);
+    _thread = std::thread([state = _state, logger = _running] { state->run(*logger); });
+    _wasActive = _running->setActive(true);
 }
 
 void LgReaderThread::stop() {
     if (!isRunning()) return;
     _state->requestStop();
     _thread.join();
-    LgLog::setLoggerActivation(_wasActive);
+    _running->setActive(_wasActive);
     if (_state->failure) std::rethrow_exception(_state->failure);
 }
 

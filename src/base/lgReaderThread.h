@@ -1,5 +1,6 @@
 // Qn::LgReaderThread: a Qn::LgReader on a thread of its own, the reader a host
-// starts after the logger and stops before it.
+// starts after the logger and stops before it: the process's logger
+// (Qn::LgLog), or a given one.
 //
 // The thread writes entries while there are any and sleeps a short idle period
 // when all queues are empty. stop() lets it write every entry committed so far,
@@ -19,6 +20,7 @@
 #include <memory>
 #include <thread>
 
+#include <base/lgLogger.h>
 #include <base/lgQueue.h>
 
 namespace Qn {
@@ -26,14 +28,17 @@ namespace Qn {
 class QN_BASE_API LgReaderThread {
   public:
     // idleMicroseconds: how long the thread sleeps when every queue is empty.
+    // Without a logger, the thread drains the process's logger, the one that
+    // runs at start().
     explicit LgReaderThread(int idleMicroseconds = 1000);
+    explicit LgReaderThread(LgLogger& logger, int idleMicroseconds = 1000);
     // Stops the thread if it runs; a failure of the reader is then dropped.
     ~LgReaderThread();
     LgReaderThread(const LgReaderThread&) = delete;
     LgReaderThread& operator=(const LgReaderThread&) = delete;
 
-    // Starts the thread and marks the logger active (LgLog::isLoggerActive):
-    // there is a reader for the queues now. REQUIRES: not running.
+    // Starts the thread and marks the logger active (LgLogger::isActive): there
+    // is a reader for the queues now. REQUIRES: not running.
     void start();
     // Writes every pending entry, stops and joins the thread, and gives the
     // logger back its previous activation. Raises the exception that ended the
@@ -51,6 +56,9 @@ class QN_BASE_API LgReaderThread {
 
     std::shared_ptr<State> _state;
     std::thread _thread;
+    // The given logger, else the one the thread drains while it runs.
+    LgLogger* _logger;
+    LgLogger* _running = nullptr;
     bool _wasActive = false;
 };
 

@@ -17,7 +17,7 @@
 // Thread-safety: one producer (insertions, completion, the output flags,
 // getNumCharacters, isFull) and one reader (operator>>, getNextSize) may run at
 // the same time; the reader sees a string only after its completion. Usually
-// the stream is part of a Qn::LgQueue, whose entries say how many strings
+// the stream belongs to a Qn::LgQueue, whose entries say how many strings
 // there are.
 #pragma once
 
@@ -93,10 +93,9 @@ class QN_BASE_API LgStream {
     void resetOutputFlags() { _outputFlags = 0; }
     // The longest string the ring can hold.
     static uint32_t getMaxSize() { return BufSize - 2; }
-
-  protected:
-    // Whether the current string has text or was started and not completed
-    // yet: a commit must complete it so that each entry has one string.
+    // Producer side: the current string has text, or was cut off, and is not
+    // completed yet; a commit must complete it so that each entry has one
+    // string.
     bool isStringOpen() const { return _stringOpen; }
 
   private:

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include <base/lgLockedRegistry.h>
 #include <base/lgLog.h>
 
 namespace Qn {
@@ -20,7 +19,6 @@ thread_local LgQueue* threadQueue = nullptr;
 
 void LgThreadQueues::install(std::shared_ptr<LgQueue::Observer> observer) {
     queueObserver = std::move(observer);
-    LgLog::setRegistry(std::make_shared<LgLockedRegistry>());
     LgLog::setQueueFunction(&LgThreadQueues::getQueue);
 }
 

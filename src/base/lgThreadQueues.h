@@ -2,11 +2,9 @@
 // host installs to log from several threads.
 //
 // install() makes the logger hand every thread a queue of its own, created and
-// registered at the thread's first message. When the thread ends (or calls
-// releaseQueue) its queue is marked with creatorExit; the reader destroys it
-// once drained. The registry
-// becomes a Qn::LgLockedRegistry (queues registered so far are carried over),
-// so threads may start logging while a reader runs.
+// registered with the logger's registry at the thread's first message, also
+// while a reader runs. When the thread ends (or calls releaseQueue) its queue
+// is marked with creatorExit; the reader destroys it once drained.
 //
 //   Qn::LgLog::init();                 // or the "logger" package
 //   Qn::LgThreadQueues::install();
@@ -24,8 +22,8 @@ namespace Qn {
 
 class QN_BASE_API LgThreadQueues {
   public:
-    // Installs the per-thread queue function and a locked registry. A given
-    // observer is installed on every queue made from then on.
+    // Installs the per-thread queue function. A given observer is installed
+    // on every queue made from then on.
     static void install(std::shared_ptr<LgQueue::Observer> observer = nullptr);
 
     // The calling thread's queue, made and registered with the logger's

@@ -61,7 +61,7 @@ void LgTrace::print(const char* mess) {
         }
         q.waitForSpace(static_cast<int>(len));
         QN_ASSERT_TEXT(
-            !q.isFull() && (s.getNumCharacters() >= static_cast<unsigned int>(len)),
+            !q.isEntryRingFull() && (s.getNumCharacters() >= static_cast<unsigned int>(len)),
             "!q.isFull() && ( s.getNumCharacters() >= static_cast<unsigned int>( len ))");
     }
     if (!q.reserveEntry(LgTypes::Tracing)) return;

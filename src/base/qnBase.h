@@ -60,12 +60,14 @@
 #include <base/inVariableBase.h>
 #include <base/interval.h>
 #include <base/intervalTimer.h>
+#include <base/lgClock.h>
+#include <base/lgConfig.h>
 #include <base/lgDemo.h>
 #include <base/lgEx.h>
 #include <base/lgInterProcessLock.h>
 #include <base/lgInterProcessLockGuard.h>
-#include <base/lgLockedRegistry.h>
 #include <base/lgLog.h>
+#include <base/lgLogger.h>
 #include <base/lgMajorGroup.h>
 #include <base/lgMessage.h>
 #include <base/lgMinorGroup.h>
@@ -74,6 +76,7 @@
 #include <base/lgReaderThread.h>
 #include <base/lgRegistry.h>
 #include <base/lgSimpleRegistry.h>
+#include <base/lgSink.h>
 #include <base/lgStream.h>
 #include <base/lgThreadQueues.h>
 #include <base/lgTrace.h>
@@ -156,4 +159,3 @@
 #include <base/traceManager.h>
 #include <base/traceOptions.h>
 #include <base/vector.h>
-#include <base/exSysErrorNative.h>
