@@ -33,6 +33,7 @@ std::string errorOf(const DtTimecode& timecode, const std::string& text) {
 
 }  // namespace
 
+// Drop-frame counting itself is checked label by label in EveryValidLabelRoundTrips.
 TEST(DtTimecode, WritesTheLabelOfTheFrameThatContainsTheTime) {
     struct Row {
         DtTimecode timecode;
@@ -43,11 +44,8 @@ TEST(DtTimecode, WritesTheLabelOfTheFrameThatContainsTheTime) {
         {DtTimecode(Rational(25, 1)), DtTime(90000 * 25 + 24, 25, 1), "25:00:00:24"},
         {DtTimecode(Rational(25, 1), Drop::Off, DtTimecode::Wrap24Hours), DtTime(90000 * 25, 25, 1),
          "01:00:00:00"},
-        {DtTimecode(Ntsc), DtTime(1799, Ntsc), "00:00:59;29"},
-        {DtTimecode(Ntsc), DtTime(1800, Ntsc), "00:01:00;02"},
         {DtTimecode(Ntsc), DtTime(1001, 1, 1), "00:16:41;00"},  // 30000 frames
         {DtTimecode(Ntsc, Drop::Off), DtTime(1800, Ntsc), "00:01:00:00"},
-        {DtTimecode(Ntsc60), DtTime(3600, Ntsc60), "00:01:00;04"},
         {DtTimecode(Ntsc120), DtTime(7200, Ntsc120), "00:01:00:000"},
         {DtTimecode(Ntsc120, Drop::On), DtTime(7200, Ntsc120), "00:01:00;008"},
         {DtTimecode(Film), DtTime(999999999, 1000000000, 1), "00:00:00:23"},
