@@ -13,8 +13,11 @@
 #include <iostream>
 #include <string>
 
+#include <base/dtRefTimeFactory.h>
 #include <base/dtTime.h>
+#include <base/dtTimeMark.h>
 #include <base/dtTimeUtil.h>
+#include <base/dtTimecode.h>
 #include <base/exBase.h>
 #include <base/inBasePackages.h>
 #include <base/inContextAlias.h>
@@ -54,7 +57,8 @@ void overrideFromCommandLine(int argc, char** argv) {
 void section(const char* title) { std::cout << "\n== " << title << "\n"; }
 
 // Exact discrete time: a film second re-expressed at the NTSC rate, two rates
-// added at their shared rate, and a time through its text form and back.
+// added at their shared rate, a time through its text form and back, one time
+// as timecode, and a reference time read at a stream rate.
 void showExactTime() {
     const Qn::Rational film(24, 1), ntsc(30000, 1001);
     const Qn::DtTime second(24, film);
@@ -68,6 +72,19 @@ void showExactTime() {
     const Qn::DtTime back = Qn::DtTimeUtil::getDtTimeFromDtString(text.get());
     std::cout << time << " -> \"" << text.get() << "\" -> " << back
               << (back == time && back.isRateEqual(time) ? " (exact)" : " (differs)") << "\n";
+    // One time, 1 h 2 min 3.5 s, as the timecode of its frame at three rates.
+    const Qn::DtTime clock(3723500, 1000, 1);
+    for (const Qn::Rational rate : {film, Qn::Rational(25, 1), ntsc}) {
+        std::cout << "timecode at " << rate.getDouble()
+                  << " fps: " << Qn::DtTimecode(rate).toText(clock) << "\n";
+    }
+    // Reference times in exact arithmetic: the NTSC frame one second of the
+    // reference clock after a mark.
+    const Qn::DtRefTimeFactory& factory = Qn::DtRefTimeFactory::getInstance();
+    const Qn::DtTimeMark mark(Qn::DtTime(0, ntsc), factory.create());
+    const Qn::DtRefTime later = factory.createExact(mark.getRefTime(), 1, Qn::Rational(1, 1));
+    std::cout << "one reference second after the mark: NTSC frame "
+              << int64_t{mark.evalTimeExact(later).getStreamTime().getCount()} << "\n";
 }
 
 // Runs one part of the tour under a profiler of its own name.

@@ -35,15 +35,11 @@ TEST(DtRefTimeFactory, MakesTimesOnTheHwCounterClock) {
     EXPECT_EQ(clockRate(),
               Rational(Qn::HwCounter::getRateNumerator(), Qn::HwCounter::getRateDenominator()));
 
-    const DtRefTime first = factory().create();
-    const DtRefTime second = factory().create();
-    EXPECT_GE(int64_t{first.getCount()}, 0);
-    EXPECT_LE(int64_t{first.getCount()}, int64_t{second.getCount()});
-    EXPECT_EQ(first.getRate(), clockRate());
-
+    const DtRefTime first = factory().create(), second = factory().create();
+    EXPECT_TRUE(first.getCount() >= 0 && first.getCount() <= second.getCount());
     const DtRefTime given = factory().create(5, "HwCounter");
-    EXPECT_EQ(int64_t{given.getCount()}, 5);
-    EXPECT_EQ(given.getRate(), clockRate());
+    EXPECT_EQ(text(given), text(DtTime(5, clockRate())));
+    EXPECT_EQ(first.getRate(), clockRate());
 
     // One tick at 24/1 later, converted toward zero to the clock's rate.
     const DtRefTime moved = factory().create(given, 1, Rational(24, 1));
@@ -54,30 +50,22 @@ TEST(DtRefTimeFactory, MakesTimesOnTheHwCounterClock) {
 
 TEST(DtRefTimeFactory, OtherClockNamesAreRefused) {
     for (const char* name : {"hwcounter", "HwCounter ", "", static_cast<const char*>(nullptr)}) {
-        SCOPED_TRACE(name != nullptr ? name : "(null)");
         try {
             factory().create(5, name);
-            ADD_FAILURE() << "no exception";
+            ADD_FAILURE() << "no exception for " << (name != nullptr ? name : "(null)");
         } catch (const Qn::DtRefClockEx::SourceMismatch& e) {
             EXPECT_STREQ(e.what(), "Clock source name does not match system reference clock.");
-            EXPECT_STREQ(e.getFileName(), "dtRefTime");
-            EXPECT_EQ(e.getLineNo(), 136);
+            EXPECT_EQ(std::string(e.getFileName()) + ":" + std::to_string(e.getLineNo()),
+                      "dtRefTime:136");
         }
     }
 }
 
 TEST(DtRefTime, DefaultsAndTextForms) {
-    const DtRefTime none;
-    EXPECT_EQ(int64_t{none.getCount()}, 0);
-    EXPECT_EQ(none.getRate(), Rational(0, 1));
-    EXPECT_EQ(text(none), "(0 @ (0/1=0))");
+    EXPECT_EQ(text(DtRefTime()), "(0 @ (0/1=0))");
     EXPECT_EQ(text(DtTimeMark()), "((0 @ (1/1=1)) (0 @ (0/1=0)))");
     const DtTimeMark mark(DtTime(100, 24, 1), factory().create(7, "HwCounter"));
-    std::ostringstream expected;
-    expected << "((100 @ (24/1=24)) (7 @ ";
-    clockRate().dump(expected);
-    expected << "))";
-    EXPECT_EQ(text(mark), expected.str());
+    EXPECT_EQ(text(mark), "((100 @ (24/1=24)) " + text(DtTime(7, clockRate())) + ")");
 }
 
 TEST(DtTimeMark, EvaluatesEitherTimeFromTheOther) {
@@ -90,8 +78,8 @@ TEST(DtTimeMark, EvaluatesEitherTimeFromTheOther) {
         factory().create(1000 + 2 * int64_t{rate.getNumerator()}, "HwCounter");
     const DtTimeMark atRef = mark.evalTime(twoSeconds);
     EXPECT_EQ(int64_t{atRef.getRefTime().getCount()}, int64_t{twoSeconds.getCount()});
-    EXPECT_TRUE(atRef.getStreamTime() == DtTime(10 + 48 * int64_t{rate.getDenominator()}, 24, 1));
-    EXPECT_TRUE(atRef.getStreamTime().isRateEqual(DtTime(0, 24, 1)));
+    EXPECT_EQ(text(atRef.getStreamTime()),
+              text(DtTime(10 + 48 * int64_t{rate.getDenominator()}, 24, 1)));
 
     // Frame 34 at 24/1 is one second after the mark; frame 50 at 48/1 is 30
     // ticks of 48/1 after it.

@@ -22,6 +22,7 @@ class QN_BASE_API DtRefTime {
 
   private:
     friend class DtRefTimeFactory;
+    friend class DtTimeMark;
     DtRefTime(DtTimeIndex count, Rational rate) : _count(count), _rate(rate) {}
 
     DtTimeIndex _count;

@@ -2,6 +2,7 @@
 
 #include <cstring>
 
+#include <base/dtEx.h>
 #include <base/dtHwCounterClockSource.h>
 #include <base/dtRefClockEx.h>
 
@@ -31,6 +32,14 @@ DtRefTime DtRefTimeFactory::create(const DtRefTime& base, DtTimeIndex offset,
                                    Rational offsetRate) const {
     const Rational rate = _source->getRate();
     return DtRefTime(base.getCount() + offset.convert(offsetRate, rate, std::round_toward_zero),
+                     rate);
+}
+
+DtRefTime DtRefTimeFactory::createExact(const DtRefTime& base, DtTimeIndex offset,
+                                        Rational offsetRate, DtRounding rounding) const {
+    const Rational rate = _source->getRate();
+    if (base.getRate() != rate) QN_THROW(DtEx::BadRefRate);
+    return DtRefTime(DtExact::add(base.getCount(), offset.convertExact(offsetRate, rate, rounding)),
                      rate);
 }
 

@@ -28,8 +28,17 @@ class QN_BASE_API DtRefTimeFactory {
     // clock (exact, case-sensitive); otherwise raises DtRefClockEx::SourceMismatch.
     DtRefTime create(DtTimeIndex count, const char* clockName) const;
     // base moved by offset ticks at offsetRate, the offset converted toward
-    // zero to the clock's rate.
+    // zero to the clock's rate with DtTimeIndex::convert, whose 32-bit factor
+    // wraps with the nanosecond counter: 30 ticks at 30000/1001 come out as
+    // 272620 nanoseconds instead of 1001000000. Use createExact.
     DtRefTime create(const DtRefTime& base, DtTimeIndex offset, Rational offsetRate) const;
+    // base moved by offset ticks at offsetRate, the offset converted exactly
+    // (DtTimeIndex::convertExact) to the clock's rate and rounded as asked.
+    // Raises DtEx::BadRefRate when base is not of this clock's rate,
+    // DtEx::BadRate for a zero offsetRate, DtEx::ExOverflow when the count does
+    // not fit in 64 bits.
+    DtRefTime createExact(const DtRefTime& base, DtTimeIndex offset, Rational offsetRate,
+                          DtRounding rounding = DtRounding::TowardZero) const;
 
     const DtRefClockSource& getClockSource() const { return *_source; }
 

@@ -9,6 +9,8 @@
 // a common multiple and the conversion exact: 24/1 and 25/1 share 600/1.
 // Comparisons never convert: they compare exact cross products (and assume
 // positive rates). Overflow is not detected anywhere; integer results wrap.
+// Where that matters, the exact forms are convertRateExact (instead of
+// convertRate) and Qn::DtTimeLess (instead of the comparison operators).
 // A plain value type: no locking, no allocation.
 //
 //   Qn::DtTime film(10, 24, 1), pal(10, 25, 1);
@@ -38,9 +40,18 @@ class QN_BASE_API DtTime {
     Rational getRate() const { return _rate; }
     bool isRateEqual(const DtTime& other) const { return _rate == other._rate; }
 
-    // The same instant at newRate, the count converted toward zero. Raises
-    // DtEx::BadRate when newRate's numerator is zero.
+    // The same instant at newRate, the count converted toward zero with
+    // DtTimeIndex::convert, whose 32-bit factor wraps for large rates (see
+    // there). Raises DtEx::BadRate when newRate's numerator is zero.
     DtTime convertRate(Rational newRate) const;
+    // The same instant at newRate, the count converted exactly
+    // (DtTimeIndex::convertExact) and rounded as asked. Raises DtEx::BadRate
+    // when newRate's numerator is zero, DtEx::ExOverflow when the count does
+    // not fit in 64 bits.
+    DtTime convertRateExact(Rational newRate, DtRounding rounding = DtRounding::TowardZero) const {
+        if (newRate == _rate) return *this;
+        return DtTime(_count.convertExact(_rate, newRate, rounding), newRate);
+    }
 
     // The rate two times of rates a and b are combined at (see above).
     static Rational getSharedRate(Rational a, Rational b);
@@ -137,7 +148,11 @@ class QN_BASE_API DtTime {
 };
 
 // a.count x a.denominator x b.numerator and b.count x b.denominator x
-// a.numerator: the two sides of the exact comparison of a and b.
+// a.numerator: the two sides of the exact comparison of a and b. Each is a
+// 64-bit product that wraps once it passes 2^63 (a count of 2^32 ticks at
+// 30000/1001 against a time at 1000000000/1 already does), and a negative rate
+// numerator reverses the sense of the comparisons; Qn::DtTimeLess orders any
+// two times exactly.
 inline DtTimeIndex crossMultLhs(const DtTime& a, const DtTime& b) {
     return IntWrap::mul(int64_t{a.getRate().getDenominator()} * b.getRate().getNumerator(),
                         int64_t{a.getCount()});

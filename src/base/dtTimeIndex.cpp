@@ -57,4 +57,18 @@ DtTimeIndex DtTimeIndex::convert(Rational fromRate, Rational toRate,
     }
 }
 
+DtTimeIndex DtTimeIndex::convertExact(Rational fromRate, Rational toRate,
+                                      DtRounding rounding) const {
+    // Each term is a product of two 32-bit values, at most 2^62 in magnitude.
+    int64_t numerator = int64_t{fromRate.getDenominator()} * toRate.getNumerator();
+    int64_t denominator = int64_t{toRate.getDenominator()} * fromRate.getNumerator();
+    if (denominator == 0) [[unlikely]]
+        QN_THROW(DtEx::BadRate);
+    if (denominator < 0) {
+        numerator = -numerator;
+        denominator = -denominator;
+    }
+    return DtExact::divide(DtInt128{_count} * numerator, denominator, rounding);
+}
+
 }  // namespace Qn

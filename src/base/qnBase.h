@@ -9,6 +9,7 @@
 #include <base/dbgTypeName.h>
 #include <base/dbgVersion.h>
 #include <base/dtEx.h>
+#include <base/dtExact.h>
 #include <base/dtHwCounterClockSource.h>
 #include <base/dtRefClockEx.h>
 #include <base/dtRefClockSource.h>
@@ -16,8 +17,10 @@
 #include <base/dtRefTimeFactory.h>
 #include <base/dtTime.h>
 #include <base/dtTimeIndex.h>
+#include <base/dtTimeLess.h>
 #include <base/dtTimeMark.h>
 #include <base/dtTimeUtil.h>
+#include <base/dtTimecode.h>
 #include <base/exBadException.h>
 #include <base/exBase.h>
 #include <base/exFamily.h>
